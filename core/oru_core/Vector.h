@@ -1,0 +1,47 @@
+#ifndef ORU_CORE_VECTOR_H
+#define ORU_CORE_VECTOR_H
+
+#include <cstddef>
+
+namespace Oru
+{
+
+/// Two single-precision floats in component order.
+struct float2
+{
+    static const std::size_t dimension = 2;
+    float x, y;
+
+    float2() : x(0.0f), y(0.0f) {}
+    float2(float v) : x(v), y(v) {}
+    float2(float x_, float y_) : x(x_), y(y_) {}
+};
+
+/// Three single-precision floats in component order.
+struct float3
+{
+    static const std::size_t dimension = 3;
+    float x, y, z;
+
+    float3() : x(0.0f), y(0.0f), z(0.0f) {}
+    float3(float v) : x(v), y(v), z(v) {}
+    float3(float x_, float y_, float z_) : x(x_), y(y_), z(z_) {}
+};
+
+/// Four single-precision floats in component order (colours, positions).
+struct float4
+{
+    static const std::size_t dimension = 4;
+    float x, y, z, w;
+
+    float4() : x(0.0f), y(0.0f), z(0.0f), w(0.0f) {}
+    float4(float v) : x(v), y(v), z(v), w(v) {}
+    float4(float x_, float y_, float z_, float w_) : x(x_), y(y_), z(z_), w(w_) {}
+
+    float& operator[](std::size_t i) { return (&x)[i]; }
+    float const& operator[](std::size_t i) const { return (&x)[i]; }
+};
+
+} // namespace Oru
+
+#endif

@@ -1,0 +1,71 @@
+# Shared by the project's commands: installs what is missing, configures and
+# builds, and provides a display and a Wine prefix for running the programs.
+# Source it; it defines the functions below and changes nothing by itself.
+
+ORU_ROOT=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+ORU_BUILD=${ORU_BUILD:-$ORU_ROOT/build}
+ORU_PACKAGES="cmake ninja-build python3 g++-mingw-w64-x86-64-posix wine64 xvfb xauth googletest libgl1 libgl1-mesa-dri libglx-mesa0"
+
+oru_log() { printf '==> %s\n' "$*" >&2; }
+
+# Installs the Debian packages that are missing (needs root, as on CI).
+oru_install() {
+    local missing=""
+    for package in $ORU_PACKAGES; do
+        dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q "install ok installed" || missing="$missing $package"
+    done
+    if [ -n "$missing" ]; then
+        oru_log "installing:$missing"
+        local sudo=""
+        [ "$(id -u)" -eq 0 ] || sudo="sudo"
+        $sudo apt-get update -qq
+        DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --no-install-recommends $missing >/dev/null
+    fi
+}
+
+oru_build() {
+    if [ ! -f "$ORU_BUILD/CMakeCache.txt" ]; then
+        oru_log "configuring $ORU_BUILD"
+        cmake -S "$ORU_ROOT" -B "$ORU_BUILD" -G Ninja \
+            -DCMAKE_TOOLCHAIN_FILE="$ORU_ROOT/cmake/mingw-w64-x86_64-posix.cmake" \
+            -DCMAKE_BUILD_TYPE=Release >/dev/null
+    fi
+    oru_log "building"
+    cmake --build "$ORU_BUILD" -- -k 0 | grep -vE '^\[[0-9]+/[0-9]+\]' || true
+    cmake --build "$ORU_BUILD" >/dev/null
+}
+
+oru_wine64() {
+    command -v wine64 2>/dev/null || ls /usr/lib/wine/wine64 2>/dev/null
+}
+
+# Starts Xvfb on a free display and a quiet Wine prefix inside the build tree;
+# both are stopped when the calling shell exits.
+oru_start_display() {
+    local display_file
+    display_file=$(mktemp)
+    Xvfb -displayfd 9 -screen 0 1280x1024x24 -nolisten tcp 9>"$display_file" 2>/dev/null &
+    ORU_XVFB_PID=$!
+    for _ in $(seq 100); do
+        [ -s "$display_file" ] && break
+        sleep 0.1
+    done
+    export DISPLAY=":$(cat "$display_file")"
+    rm -f "$display_file"
+    trap oru_stop_display EXIT
+
+    export WINEPREFIX="$ORU_BUILD/wineprefix"
+    export WINEDEBUG=-all
+    export WINEDLLOVERRIDES="mscoree,mshtml,winemenubuilder.exe="
+    export WINEARCH=win64
+    if [ ! -f "$WINEPREFIX/system.reg" ]; then
+        oru_log "creating the Wine prefix"
+        "$(oru_wine64)" wineboot -i >/dev/null 2>&1
+    fi
+}
+
+oru_stop_display() {
+    wineserver -k >/dev/null 2>&1 || /usr/lib/wine/wineserver -k >/dev/null 2>&1 || true
+    [ -n "${ORU_XVFB_PID:-}" ] && kill "$ORU_XVFB_PID" 2>/dev/null
+    wait 2>/dev/null || true
+}

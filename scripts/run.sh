@@ -1,0 +1,8 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds, and runs oglinfo under Wine.
+set -euo pipefail
+. "$(dirname "$0")/env.sh"
+oru_install
+oru_build
+oru_start_display
+"$(oru_wine64)" "$ORU_BUILD/bin/oglinfo.exe" "$@"

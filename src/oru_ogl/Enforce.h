@@ -1,0 +1,45 @@
+#ifndef ORU_OGL_ENFORCE_H
+#define ORU_OGL_ENFORCE_H
+
+// The checks of the layer. Each throws Oru::InternalException by value with the
+// file and line of the check itself and one of four texts:
+//
+//   ORU_ENFORCE(pContext != NULL)        "Enforce pContext != NULL"  (caller's precondition)
+//   ORU_VERIFY(pInstance_ == 0)          "pInstance_ == 0"           (own invariant, required feature,
+//   ORU_VERIFY(!"Unknown enum.")         "!\"Unknown enum.\""         or unreachable branch)
+//   ORU_ENFORCE_RANGE(nSize > 0)         "Range error: nSize > 0"
+//
+// and ORU_THROW(a << b) for a text composed in a string stream, e.g. with
+// GetLastError() or a TokenName appended. Keep each check on one line: the
+// line reported is the line of the macro.
+
+#include "oru_ogl/OglExport.h"
+
+#include <sstream>
+#include <string>
+
+namespace Oru
+{
+namespace OGL
+{
+namespace detail
+{
+[[noreturn]] ORU_OGL_API void raiseInternal(char const* file, int line, char const* text);
+[[noreturn]] ORU_OGL_API void raiseInternal(char const* file, int line, std::string const& text);
+} // namespace detail
+} // namespace OGL
+} // namespace Oru
+
+#define ORU_ENFORCE(expr) \
+    do { if (!(expr)) ::Oru::OGL::detail::raiseInternal(__FILE__, __LINE__, "Enforce " #expr); } while (0)
+
+#define ORU_VERIFY(expr) \
+    do { if (!(expr)) ::Oru::OGL::detail::raiseInternal(__FILE__, __LINE__, #expr); } while (0)
+
+#define ORU_ENFORCE_RANGE(expr) \
+    do { if (!(expr)) ::Oru::OGL::detail::raiseInternal(__FILE__, __LINE__, "Range error: " #expr); } while (0)
+
+#define ORU_THROW(streamed) \
+    do { std::ostringstream oruText_; oruText_ << streamed; ::Oru::OGL::detail::raiseInternal(__FILE__, __LINE__, oruText_.str()); } while (0)
+
+#endif

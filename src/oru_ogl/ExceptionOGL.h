@@ -1,0 +1,32 @@
+#ifndef ORU_OGL_EXCEPTIONOGL_H
+#define ORU_OGL_EXCEPTIONOGL_H
+
+#include "oru_ogl/OglExport.h"
+#include "oru_core/Exceptions.h"
+
+namespace Oru
+{
+namespace OGL
+{
+
+/// An error that OpenGL reported after a call made through the error-checking
+/// interceptor: the caller's file and line, the GLU text of the error and its code.
+class ORU_OGL_API ExceptionOGL : public LogicalException
+{
+public:
+    ExceptionOGL(char const* file, unsigned int line, char const* message, unsigned int errorNumber);
+    ExceptionOGL(ExceptionOGL const& other);
+    ExceptionOGL& operator=(ExceptionOGL const& other);
+    virtual ~ExceptionOGL();
+
+    /// The value glGetError returned (0 for an unbalanced glBegin or glEnd).
+    unsigned int errorNumber() const;
+
+private:
+    unsigned int errorNumber_;
+};
+
+} // namespace OGL
+} // namespace Oru
+
+#endif

@@ -1,0 +1,14 @@
+#!/usr/bin/env python3
+"""Generates oru_ogl's tables from the committed catalogue.
+
+    generate.py tokens  CATALOGUE_DIR OUTPUT_DIR
+"""
+import os
+import sys
+
+sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
+
+from oglgen import main  # noqa: E402
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1:]))
