@@ -62,10 +62,19 @@ oru_start_display() {
         oru_log "creating the Wine prefix"
         "$(oru_wine64)" wineboot -i >/dev/null 2>&1
     fi
+    # One wine server and one set of Wine's background services for all the
+    # programs, rather than a start-up per program. The services are started here
+    # with no terminal or pipe of ours, so that none of them holds a test's output.
+    oru_wineserver -p >/dev/null 2>&1 || true
+    "$(oru_wine64)" wineboot </dev/null >/dev/null 2>&1 || true
+}
+
+oru_wineserver() {
+    if command -v wineserver >/dev/null 2>&1; then wineserver "$@"; else /usr/lib/wine/wineserver "$@"; fi
 }
 
 oru_stop_display() {
-    wineserver -k >/dev/null 2>&1 || /usr/lib/wine/wineserver -k >/dev/null 2>&1 || true
+    oru_wineserver -k >/dev/null 2>&1 || true
     [ -n "${ORU_XVFB_PID:-}" ] && kill "$ORU_XVFB_PID" 2>/dev/null
     wait 2>/dev/null || true
 }

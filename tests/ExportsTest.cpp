@@ -2,6 +2,8 @@
 #include "support/ModuleExports.h"
 
 #include "oru_ogl/TokenName.h"
+#include "oru_ogl/extensionator/EntryPoints.h"
+#include "oru_ogl/extensionator/ExtensionCatalogue.h"
 
 #include <gtest/gtest.h>
 
@@ -26,4 +28,25 @@ TEST(ExportsTest, TokenFunctionsHaveUnmangledNames)
         reinterpret_cast<void*>(GetProcAddress(module, "TokenName")));
     ASSERT_NE(nullptr, byName);
     EXPECT_STREQ("GL_FRAGMENT_SHADER", byName(0x8B30));
+}
+
+TEST(ExportsTest, EveryEntryPointPointerIsExported)
+{
+    _cgmDrawRangeElements = _cgmDrawRangeElements; // keeps the DLL loaded by this program
+    const std::vector<std::string> names = OruTest::exportedNames("oru_ogl.dll");
+    const long gl = std::count_if(names.begin(), names.end(), [](std::string const& n) { return n.rfind("_cgm", 0) == 0; });
+    const long wgl = std::count_if(names.begin(), names.end(), [](std::string const& n) { return n.find("_wcgm") != std::string::npos; });
+    EXPECT_EQ(1165, gl);
+    EXPECT_EQ(79, wgl);
+
+    // GL pointers under their plain names: "_cgm" and the name without "gl".
+    for (unsigned int id = 0; id <= 300; ++id)
+    {
+        const Oru::OGL::teExtension ext = static_cast<Oru::OGL::teExtension>(id);
+        for (unsigned int k = 0; k < Oru::OGL::ExtensionCatalogue::entryPointCount(ext); ++k)
+        {
+            const std::string variable = std::string("_cgm") + (Oru::OGL::ExtensionCatalogue::entryPointName(ext, k) + 2);
+            EXPECT_EQ(1, std::count(names.begin(), names.end(), variable)) << variable;
+        }
+    }
 }

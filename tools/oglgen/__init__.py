@@ -1,10 +1,12 @@
 """Code generator for oru_ogl: reads the catalogue, writes C++ into the build tree."""
 import sys
 
-from . import tokens
+from . import entrypoints, interceptors, tokens
 
 TARGETS = {
     "tokens": tokens.generate,
+    "entrypoints": entrypoints.generate,
+    "interceptors": interceptors.generate,
 }
 
 

@@ -1,0 +1,47 @@
+#ifndef ORU_OGL_EXTENSIONATOR_OPENGLERRORCHECKER_H
+#define ORU_OGL_EXTENSIONATOR_OPENGLERRORCHECKER_H
+
+#include "oru_ogl/extensionator/OpenGLInterceptor.h"
+
+namespace Oru
+{
+namespace OGL
+{
+
+/// The bottom of the chain: performs each GL call (OpenGL 1.1 directly, the
+/// rest through the _cgm pointers) and, unless a glBegin/glEnd pair is open,
+/// asks glGetError and throws ExceptionOGL(file, line, gluErrorString(code),
+/// code). An unbalanced glBegin or glEnd throws with code 0 and is not called.
+/// A call through a pointer that was never loaded throws InternalException
+/// naming the entry point.
+class ORU_OGL_API OpenGLErrorChecker : public OpenGLInterceptor
+{
+public:
+    OpenGLErrorChecker();
+
+#define ORU_GL_OPERATION_TAIL override
+#include "oru_ogl/extensionator/OpenGLInterceptorOperations.inc"
+#undef ORU_GL_OPERATION_TAIL
+
+    virtual ~OpenGLErrorChecker();
+
+private:
+    void checkError(char const* file, unsigned int line) const
+    {
+        if (inBeginEnd_)
+            return; // glGetError between glBegin and glEnd is itself an error
+        const GLenum error = glGetError();
+        if (error != GL_NO_ERROR)
+            raiseGLError(file, line, error);
+    }
+
+    [[noreturn]] static void raiseGLError(char const* file, unsigned int line, GLenum error);
+    [[noreturn]] static void raiseNotLoaded(char const* file, unsigned int line, char const* function);
+
+    bool inBeginEnd_;
+};
+
+} // namespace OGL
+} // namespace Oru
+
+#endif

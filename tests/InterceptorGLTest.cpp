@@ -1,0 +1,358 @@
+// The interception chain against the real driver: GL errors pinned to the
+// caller's line, glBegin/glEnd pairs, results passed back, extension entry
+// points loaded from the driver and called through their pointers.
+#include "support/GLTest.h"
+
+#include "oru_ogl/ExceptionOGL.h"
+#include "oru_ogl/extensionator/EntryPoints.h"
+#include "oru_ogl/extensionator/ExtensionCatalogue.h"
+#include "oru_ogl/extensionator/GLCall.h"
+#include "oru_ogl/extensionator/windows/WglEntryPoints.h"
+#include "oru_ogl/testing/ForwardingDecorator.h"
+
+#include "oru_core/Exceptions.h"
+
+#include <GL/glu.h>
+
+#include <cstring>
+#include <sstream>
+#include <string>
+#include <vector>
+
+using Oru::OGL::ExceptionOGL;
+using Oru::OGL::ExtensionCatalogue;
+using Oru::OGL::OpenGLInterceptor;
+using Oru::OGL::teExtension;
+using OruTest::GLTest;
+namespace OGL = Oru::OGL;
+
+namespace
+{
+
+const GLenum kNoSuchCapability = 0xFFFF;
+
+class InterceptorGLTest : public GLTest
+{
+protected:
+    void SetUp() override
+    {
+        GLTest::SetUp();
+        while (glGetError() != GL_NO_ERROR)
+        {
+        }
+        gl = OpenGLInterceptor::Instance();
+    }
+    void TearDown() override
+    {
+        EXPECT_EQ(static_cast<GLenum>(GL_NO_ERROR), glGetError()) << "a GL error was left behind";
+    }
+
+    OpenGLInterceptor* gl = nullptr;
+};
+
+std::vector<std::string> split(char const* text)
+{
+    std::vector<std::string> tokens;
+    std::istringstream in(text ? text : "");
+    for (std::string token; in >> token;)
+        tokens.push_back(token);
+    return tokens;
+}
+
+std::string gluText(GLenum error)
+{
+    return reinterpret_cast<char const*>(gluErrorString(error));
+}
+
+} // namespace
+
+TEST_F(InterceptorGLTest, GLErrorCarriesTheCallersFileLineTextAndCode)
+{
+    unsigned int line = 0;
+    try
+    {
+        line = __LINE__ + 1;
+        gl->cgmEnable(__FILE__, __LINE__, kNoSuchCapability);
+        FAIL() << "no exception";
+    }
+    catch (ExceptionOGL const& e)
+    {
+        EXPECT_STREQ("tests/InterceptorGLTest.cpp", e.file());
+        EXPECT_EQ(static_cast<int>(line), e.line());
+        EXPECT_EQ(static_cast<unsigned int>(GL_INVALID_ENUM), e.errorNumber());
+        EXPECT_EQ(gluText(GL_INVALID_ENUM), e.message());
+        EXPECT_FALSE(std::string(e.message()).empty());
+    }
+
+    try
+    {
+        gl->cgmLineWidth("caller.cpp", 123, -1.0f);
+        FAIL() << "no exception";
+    }
+    catch (ExceptionOGL const& e)
+    {
+        EXPECT_EQ(static_cast<unsigned int>(GL_INVALID_VALUE), e.errorNumber());
+        EXPECT_EQ(gluText(GL_INVALID_VALUE), e.message());
+        EXPECT_STREQ("caller.cpp", e.file());
+        EXPECT_EQ(123, e.line());
+    }
+}
+
+TEST_F(InterceptorGLTest, CallSiteMacroNamesTheLineOfTheCall)
+{
+    unsigned int line = 0;
+    try
+    {
+        line = __LINE__ + 1;
+        ORU_GL glEnable(kNoSuchCapability);
+        FAIL() << "no exception";
+    }
+    catch (ExceptionOGL const& e)
+    {
+        EXPECT_STREQ("tests/InterceptorGLTest.cpp", e.file());
+        EXPECT_EQ(static_cast<int>(line), e.line());
+    }
+    ORU_GL glDisable(GL_BLEND);
+    EXPECT_EQ(GL_FALSE, ORU_GL glIsEnabled(GL_BLEND));
+}
+
+TEST_F(InterceptorGLTest, NoErrorQueryInsideBeginEnd)
+{
+    // glGetError between glBegin and glEnd would itself raise GL_INVALID_OPERATION,
+    // which would surface at glEnd.
+    EXPECT_NO_THROW({
+        gl->cgmBegin("f", 1, GL_TRIANGLES);
+        gl->cgmColor3f("f", 2, 1.0f, 0.0f, 0.0f);
+        gl->cgmVertex2f("f", 3, 0.0f, 0.0f);
+        gl->cgmVertex2f("f", 4, 1.0f, 0.0f);
+        gl->cgmVertex2f("f", 5, 0.0f, 1.0f);
+        gl->cgmEnd("f", 6);
+    });
+}
+
+TEST_F(InterceptorGLTest, ErrorsInsideAPairSurfaceAtItsEnd)
+{
+    gl->cgmBegin("f", 1, GL_POINTS);
+    EXPECT_NO_THROW(gl->cgmEnable("f", 2, GL_BLEND)); // not allowed inside a pair
+    try
+    {
+        gl->cgmEnd("f", 3);
+        FAIL() << "the error inside the pair was lost";
+    }
+    catch (ExceptionOGL const& e)
+    {
+        EXPECT_EQ(static_cast<unsigned int>(GL_INVALID_OPERATION), e.errorNumber());
+        EXPECT_EQ(3, e.line());
+    }
+    // The pair is closed although glEnd's check threw.
+    EXPECT_NO_THROW({
+        gl->cgmBegin("f", 4, GL_POINTS);
+        gl->cgmEnd("f", 5);
+    });
+}
+
+TEST_F(InterceptorGLTest, SecondBeginIsRefusedAndNotCalled)
+{
+    gl->cgmBegin("f", 1, GL_LINES);
+    try
+    {
+        gl->cgmBegin("f", 2, GL_LINES);
+        FAIL() << "no exception";
+    }
+    catch (ExceptionOGL const& e)
+    {
+        EXPECT_STREQ("Unbalanced glBegin()!", e.message());
+        EXPECT_EQ(0u, e.errorNumber());
+        EXPECT_EQ(2, e.line());
+    }
+    // Had the second glBegin reached GL, glEnd would report GL_INVALID_OPERATION.
+    EXPECT_NO_THROW(gl->cgmEnd("f", 3));
+}
+
+TEST_F(InterceptorGLTest, EndWithoutBeginIsNotCalled)
+{
+    EXPECT_THROW(gl->cgmEnd("f", 1), ExceptionOGL);
+    // Had glEnd reached GL outside a pair, an error would be pending now.
+    EXPECT_EQ(static_cast<GLenum>(GL_NO_ERROR), glGetError());
+}
+
+TEST_F(InterceptorGLTest, ValueReturningCallsReturnGLsValue)
+{
+    EXPECT_EQ(static_cast<GLenum>(GL_NO_ERROR), gl->cgmGetError("f", 1));
+    EXPECT_EQ(glGetString(GL_VERSION), gl->cgmGetString("f", 2, GL_VERSION));
+    gl->cgmEnable("f", 3, GL_BLEND);
+    EXPECT_EQ(GL_TRUE, gl->cgmIsEnabled("f", 4, GL_BLEND));
+    gl->cgmDisable("f", 5, GL_BLEND);
+    EXPECT_EQ(GL_FALSE, gl->cgmIsEnabled("f", 6, GL_BLEND));
+
+    const GLuint lists = gl->cgmGenLists("f", 7, 2);
+    EXPECT_NE(0u, lists);
+    gl->cgmNewList("f", 9, lists, GL_COMPILE);
+    gl->cgmEndList("f", 10);
+    EXPECT_EQ(GL_TRUE, gl->cgmIsList("f", 11, lists));
+    gl->cgmDeleteLists("f", 12, lists, 2);
+
+    GLuint texture = 0;
+    gl->cgmGenTextures("f", 13, 1, &texture);
+    gl->cgmBindTexture("f", 14, GL_TEXTURE_2D, texture);
+    gl->cgmTexImage2D("f", 15, GL_TEXTURE_2D, 0, GL_RGBA, 4, 4, 0, GL_RGBA, GL_UNSIGNED_BYTE, nullptr);
+    GLboolean resident = GL_FALSE;
+    const GLboolean all = gl->cgmAreTexturesResident("f", 16, 1, &texture, &resident);
+    EXPECT_EQ(glAreTexturesResident(1, &texture, &resident), all);
+    gl->cgmDeleteTextures("f", 17, 1, &texture);
+}
+
+TEST_F(InterceptorGLTest, ExtensionEntryPointsAreCalledThroughTheirPointers)
+{
+    ASSERT_TRUE(ExtensionCatalogue::loadGL(OGL::OPEN_GL_1_5)) << ExtensionCatalogue::missingEntryPoint(OGL::OPEN_GL_1_5);
+    GLuint buffer = 0;
+    gl->cgmGenBuffers("f", 1, 1, &buffer);
+    ASSERT_NE(0u, buffer);
+    gl->cgmBindBuffer("f", 2, GL_ARRAY_BUFFER, buffer);
+    EXPECT_EQ(GL_TRUE, gl->cgmIsBuffer("f", 3, buffer));
+    try
+    {
+        gl->cgmBindBuffer("g", 4, 0x1234, buffer);
+        FAIL() << "no exception";
+    }
+    catch (ExceptionOGL const& e)
+    {
+        EXPECT_EQ(static_cast<unsigned int>(GL_INVALID_ENUM), e.errorNumber());
+        EXPECT_STREQ("g", e.file());
+    }
+    gl->cgmBindBuffer("f", 5, GL_ARRAY_BUFFER, 0);
+    gl->cgmDeleteBuffers("f", 6, 1, &buffer);
+    EXPECT_EQ(GL_FALSE, gl->cgmIsBuffer("f", 7, buffer));
+}
+
+TEST_F(InterceptorGLTest, AnUnloadedEntryPointIsNamedNotCalled)
+{
+    const PFN_cgmIsBuffer saved = _cgmIsBuffer;
+    _cgmIsBuffer = nullptr;
+    try
+    {
+        gl->cgmIsBuffer("caller.cpp", 77, 1);
+        ADD_FAILURE() << "no exception";
+    }
+    catch (Oru::InternalException const& e)
+    {
+        EXPECT_EQ(0u, std::string(e.message()).rfind("glIsBuffer is not loaded", 0)) << e.message();
+        EXPECT_STREQ("caller.cpp", e.file());
+        EXPECT_EQ(77, e.line());
+    }
+    _cgmIsBuffer = saved;
+}
+
+TEST_F(InterceptorGLTest, DecoratorsForwardToTheCheckerWithTheCallersLine)
+{
+    OruTest::ForwardingDecorator outer, inner;
+    gl->addInterceptor(&inner);
+    OpenGLInterceptor::Instance()->addInterceptor(&outer);
+    try
+    {
+        OpenGLInterceptor::Instance()->cgmEnable("deep.cpp", 5, kNoSuchCapability);
+        ADD_FAILURE() << "no exception";
+    }
+    catch (ExceptionOGL const& e)
+    {
+        EXPECT_STREQ("deep.cpp", e.file());
+        EXPECT_EQ(5, e.line());
+    }
+    EXPECT_EQ(1u, outer.calls);
+    EXPECT_EQ(1u, inner.calls);
+    EXPECT_STREQ("cgmEnable", inner.lastOperation);
+    EXPECT_EQ(GL_FALSE, OpenGLInterceptor::Instance()->cgmIsEnabled("x.cpp", 9, GL_BLEND));
+    EXPECT_STREQ("cgmIsEnabled", outer.lastOperation);
+    EXPECT_EQ(9u, inner.lastLine);
+    EXPECT_EQ(&outer, OpenGLInterceptor::Instance()->popInterceptor());
+    EXPECT_EQ(&inner, OpenGLInterceptor::Instance()->popInterceptor());
+}
+
+// Every advertised extension that the catalogue knows loads, or stops exactly
+// at an entry point the driver lacks, with the earlier ones set.
+namespace
+{
+
+void expectLoadsOrStopsAtAMissingEntryPoint(teExtension ext, bool loaded, unsigned int& good, unsigned int& partial)
+{
+    char const* name = ExtensionCatalogue::name(ext);
+    const unsigned int count = ExtensionCatalogue::entryPointCount(ext);
+    if (loaded)
+    {
+        ++good;
+        EXPECT_EQ(nullptr, ExtensionCatalogue::missingEntryPoint(ext)) << name;
+        return;
+    }
+    ++partial;
+    char const* missing = ExtensionCatalogue::missingEntryPoint(ext);
+    ASSERT_NE(nullptr, missing) << name << " failed without a missing entry point";
+    EXPECT_EQ(nullptr, wglGetProcAddress(missing)) << name << ": " << missing << " does resolve";
+    for (unsigned int k = 0; k < count && ExtensionCatalogue::entryPointName(ext, k) != std::string(missing); ++k)
+        EXPECT_TRUE(ExtensionCatalogue::isEntryPointLoaded(ext, k)) << name << " entry " << k;
+    std::cout << "  " << name << " lacks " << missing << "\n";
+}
+
+} // namespace
+
+TEST_F(InterceptorGLTest, AdvertisedGLExtensionsLoad)
+{
+    unsigned int known = 0, good = 0, partial = 0;
+    for (std::string const& token : split(reinterpret_cast<char const*>(glGetString(GL_EXTENSIONS))))
+    {
+        const teExtension ext = ExtensionCatalogue::glExtension(token.c_str());
+        if (ext == OGL::UNKNOWN_EXTENSION)
+            continue;
+        ++known;
+        expectLoadsOrStopsAtAMissingEntryPoint(ext, ExtensionCatalogue::loadGL(ext), good, partial);
+    }
+    std::cout << "  " << known << " advertised GL extensions known, " << good << " loaded, " << partial
+              << " incomplete\n";
+    EXPECT_GT(known, 20u);
+    EXPECT_GT(good, 0u);
+}
+
+TEST_F(InterceptorGLTest, CoreVersionsUpToTheDriversLoad)
+{
+    int major = 0, minor = 0;
+    std::istringstream(reinterpret_cast<char const*>(glGetString(GL_VERSION))) >> major;
+    std::istringstream(std::strchr(reinterpret_cast<char const*>(glGetString(GL_VERSION)), '.') + 1) >> minor;
+    const struct
+    {
+        teExtension id;
+        int major, minor;
+    } versions[] = { { OGL::OPEN_GL_1_2, 1, 2 }, { OGL::OPEN_GL_1_3, 1, 3 }, { OGL::OPEN_GL_1_4, 1, 4 },
+                     { OGL::OPEN_GL_1_5, 1, 5 }, { OGL::OPEN_GL_2_0, 2, 0 }, { OGL::OPEN_GL_2_1, 2, 1 } };
+    unsigned int offered = 0;
+    for (auto const& version : versions)
+    {
+        const bool loaded = ExtensionCatalogue::loadGL(version.id);
+        if (major > version.major || (major == version.major && minor >= version.minor))
+        {
+            ++offered;
+            EXPECT_TRUE(loaded) << ExtensionCatalogue::name(version.id) << " lacks "
+                                << ExtensionCatalogue::missingEntryPoint(version.id);
+        }
+        else if (!loaded)
+        {
+            EXPECT_NE(nullptr, ExtensionCatalogue::missingEntryPoint(version.id));
+        }
+    }
+    EXPECT_GE(offered, 4u) << "the driver reports " << major << "." << minor;
+}
+
+TEST_F(InterceptorGLTest, AdvertisedWGLExtensionsLoad)
+{
+    ASSERT_TRUE(ExtensionCatalogue::loadWGL(OGL::WGL_ARB_EXTENSIONS_STRING));
+    ASSERT_NE(nullptr, _wcgmGetExtensionsStringARB);
+    unsigned int known = 0, good = 0, partial = 0;
+    for (std::string const& token : split(_wcgmGetExtensionsStringARB(wglGetCurrentDC())))
+    {
+        const teExtension ext = ExtensionCatalogue::wglExtension(token.c_str());
+        if (ext == OGL::UNKNOWN_EXTENSION)
+            continue;
+        ++known;
+        expectLoadsOrStopsAtAMissingEntryPoint(ext, ExtensionCatalogue::loadWGL(ext), good, partial);
+    }
+    std::cout << "  " << known << " advertised WGL extensions known, " << good << " loaded\n";
+    EXPECT_GT(good, 3u);
+}

@@ -1,0 +1,129 @@
+"""The GL interception chain: the 1501 operations of OpenGLInterceptor in their
+fixed order, the error checker that performs the calls, and ORU_GL's call sites.
+
+Members written by hand are left out of the generated definitions and named in
+HAND_WRITTEN, class by class."""
+import os
+
+from . import catalogue as cat
+from .output import banner, write_if_changed
+
+# Operations whose definitions are written by hand, per class.
+HAND_WRITTEN = {
+    "OpenGLErrorChecker": {"glBegin", "glEnd"},
+}
+
+# Translation units per generated class: the build runs them in parallel.
+CHUNKS = 4
+
+RESERVED = {"file", "line", "result"}
+
+
+def check_names(operations):
+    for f in operations:
+        for p in f.params:
+            if p.name in RESERVED:
+                raise SystemExit("%s: parameter '%s' clashes with the interceptor's own names" % (f.name, p.name))
+
+
+def signature(f, qualified_class=None):
+    """cgmAccum(const char* file, unsigned int line, GLenum op, GLfloat value)"""
+    params = "const char* file, unsigned int line"
+    if f.params:
+        params += ", " + f.parameter_list()
+    name = f.operation if not qualified_class else "%s::%s" % (qualified_class, f.operation)
+    ret = f.ret if f.ret.endswith("*") else f.ret + " "
+    return "%s%s(%s)" % (ret, name, params)
+
+
+def operations_inc(c):
+    ops = c.operations()
+    out = [banner(cat.SOURCE),
+           "// The %d operations of the GL interception chain, in their fixed order; no\n" % len(ops),
+           "// include guard. Each class of the chain includes this inside its body with\n",
+           "// ORU_GL_OPERATION_TAIL defined as \"= 0\" or \"override\".\n"]
+    out += ["virtual %s ORU_GL_OPERATION_TAIL;\n" % signature(f) for f in ops]
+    return "".join(out)
+
+
+def _chunks(items, count):
+    size = (len(items) + count - 1) // count
+    return [items[i:i + size] for i in range(0, len(items), size)]
+
+
+def error_checker_chunk(ops):
+    out = [banner(cat.SOURCE),
+           '#include "oru_ogl/extensionator/OpenGLErrorChecker.h"\n\n',
+           '#include "oru_ogl/extensionator/EntryPoints.h"\n\n',
+           "namespace Oru\n{\nnamespace OGL\n{\n\n"]
+    skip = HAND_WRITTEN["OpenGLErrorChecker"]
+    for f in ops:
+        if f.name in skip:
+            continue
+        out.append(signature(f, "OpenGLErrorChecker") + "\n{\n")
+        if f.owner is None:
+            callee = f.name
+        else:
+            callee = f.pointer
+            out.append('    if (!%s)\n        raiseNotLoaded(file, line, "%s");\n' % (f.pointer, f.name))
+        call = "%s(%s)" % (callee, f.argument_list())
+        if f.returns_value:
+            out.append("    %s result = %s;\n" % (f.ret, call))
+            out.append("    checkError(file, line);\n    return result;\n}\n\n")
+        else:
+            out.append("    %s;\n    checkError(file, line);\n}\n\n" % call)
+    out.append("} // namespace OGL\n} // namespace Oru\n")
+    return "".join(out)
+
+
+def call_site_header(c):
+    guard = "ORU_OGL_EXTENSIONATOR_GLCALL_H"
+    out = [banner(cat.SOURCE), "#ifndef %s\n#define %s\n\n" % (guard, guard),
+           '#include "oru_ogl/extensionator/OpenGLInterceptor.h"\n\n',
+           "namespace Oru\n{\nnamespace OGL\n{\n\n",
+           "/// One GL call made through the current interceptor, carrying the caller's\n",
+           "/// file and line. Written through ORU_GL, so that a checked call reads like\n",
+           "/// the call it replaces:  ORU_GL glTexParameteri(GL_TEXTURE_2D, pname, value);\n",
+           "class CallSite\n{\npublic:\n",
+           "    CallSite(char const* file, unsigned int line) : file_(file), line_(line) {}\n\n"]
+    for f in c.operations():
+        ret = f.ret if f.ret.endswith("*") else f.ret + " "
+        args = "file_, line_" + (", " + f.argument_list() if f.params else "")
+        body = "%sOpenGLInterceptor::Instance()->%s(%s);" % ("return " if f.returns_value else "", f.operation, args)
+        out.append("    %s%s(%s) const { %s }\n" % (ret, f.name, f.parameter_list(), body))
+    out.append("\nprivate:\n    char const* file_;\n    unsigned int line_;\n};\n\n")
+    out.append("} // namespace OGL\n} // namespace Oru\n\n")
+    out.append("/// Prefix for a GL call checked through the interception chain.\n")
+    out.append("#define ORU_GL ::Oru::OGL::CallSite(__FILE__, __LINE__).\n\n#endif\n")
+    return "".join(out)
+
+
+def forwarding_decorator(c):
+    """A decorator for tests: counts the calls it forwards and remembers the last."""
+    guard = "ORU_OGL_TESTING_FORWARDINGDECORATOR_H"
+    out = [banner(cat.SOURCE), "#ifndef %s\n#define %s\n\n" % (guard, guard),
+           '#include "oru_ogl/extensionator/OpenGLInterceptorDecorator.h"\n\n',
+           "namespace OruTest\n{\n\n",
+           "class ForwardingDecorator : public Oru::OGL::OpenGLInterceptorDecorator\n{\npublic:\n",
+           "    explicit ForwardingDecorator(Oru::OGL::OpenGLInterceptor* next = nullptr) : OpenGLInterceptorDecorator(next) {}\n\n",
+           "    unsigned int calls = 0;\n    char const* lastOperation = nullptr;\n",
+           "    char const* lastFile = nullptr;\n    unsigned int lastLine = 0;\n\n"]
+    for f in c.operations():
+        args = "file, line" + (", " + f.argument_list() if f.params else "")
+        out.append("    %s override\n    {\n" % signature(f))
+        out.append('        ++calls; lastOperation = "%s"; lastFile = file; lastLine = line;\n' % f.operation)
+        out.append("        %spInterceptor_->%s(%s);\n    }\n" % ("return " if f.returns_value else "", f.operation, args))
+    out.append("};\n\n} // namespace OruTest\n\n#endif\n")
+    return "".join(out)
+
+
+def generate(catalogue_dir, output_dir):
+    c = cat.load(catalogue_dir)
+    ops = c.operations()
+    check_names(ops)
+    ext = os.path.join(output_dir, "extensionator")
+    write_if_changed(os.path.join(ext, "OpenGLInterceptorOperations.inc"), operations_inc(c))
+    for index, chunk in enumerate(_chunks(ops, CHUNKS)):
+        write_if_changed(os.path.join(ext, "OpenGLErrorChecker%d.cpp" % index), error_checker_chunk(chunk))
+    write_if_changed(os.path.join(ext, "GLCall.h"), call_site_header(c))
+    write_if_changed(os.path.join(output_dir, "testing", "ForwardingDecorator.h"), forwarding_decorator(c))
