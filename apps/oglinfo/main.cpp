@@ -1,33 +1,75 @@
-// oglinfo: prints the OpenGL vendor, renderer and version of an offscreen context.
-#include "RawWglContext.h"
+// oglinfo: what OpenGL this machine offers, as the layer sees it.
+#include "DriverReport.h"
 
-#include <GL/gl.h>
+#include "oru_ogl/LibraryOGL.h"
+#include "oru_ogl/ogl/ContextOffscreen.h"
+
+#include "oru_core/Exceptions.h"
 
 #include <cstdio>
+#include <cstring>
+#include <memory>
 
 namespace
 {
 
-char const* glText(GLenum name)
-{
-    const GLubyte* text = glGetString(name);
-    return text ? reinterpret_cast<char const*>(text) : "(none)";
-}
+const char kUsage[] =
+    "usage: oglinfo [--full | --json | --help]\n"
+    "\n"
+    "Creates an offscreen OpenGL context, starts the oru_ogl layer for it and reports\n"
+    "the driver: vendor, renderer and version (and how the layer parsed it), which of\n"
+    "the layer's core versions and extensions are advertised and loaded, the answers\n"
+    "of its capability questions, texture units and the main limits.\n"
+    "\n"
+    "  (none)   a short summary\n"
+    "  --full   every core version and extension of the catalogue, and the pixel\n"
+    "           formats the layer chooses for a few buffer formats\n"
+    "  --json   everything, as one JSON object\n"
+    "  --help   this text\n"
+    "\n"
+    "Exit status: 0 on success, 1 when no context could be made or the layer could\n"
+    "not start, 2 for a bad argument.\n";
 
 } // namespace
 
-int main()
+int main(int argc, char** argv)
 {
-    OruTest::RawWglContext context;
-    if (!context.valid())
+    enum { Summary, Full, Json } mode = Summary;
+    for (int i = 1; i < argc; ++i)
     {
-        std::fprintf(stderr, "oglinfo: cannot create an OpenGL context: %s\n", context.error().c_str());
+        if (!std::strcmp(argv[i], "--help") || !std::strcmp(argv[i], "-h"))
+        {
+            std::fputs(kUsage, stdout);
+            return 0;
+        }
+        if (!std::strcmp(argv[i], "--full"))
+            mode = Full;
+        else if (!std::strcmp(argv[i], "--json"))
+            mode = Json;
+        else
+        {
+            std::fprintf(stderr, "oglinfo: unknown argument '%s'\n\n%s", argv[i], kUsage);
+            return 2;
+        }
+    }
+
+    try
+    {
+        Oru::OGL::ContextOffscreen context;
+        Oru::OGL::AutoInitializer layer(&context);
+        const DriverReport report = gatherDriverReport();
+        if (mode == Json)
+            printJson(report);
+        else if (mode == Full)
+            printFull(report);
+        else
+            printSummary(report);
+        wglMakeCurrent(nullptr, nullptr);
+    }
+    catch (Oru::ExceptionBase const& e)
+    {
+        std::fprintf(stderr, "oglinfo: cannot create an OpenGL context and start the layer: %s\n", e.what());
         return 1;
     }
-    context.makeCurrent();
-    std::printf("GL_VENDOR:   %s\n", glText(GL_VENDOR));
-    std::printf("GL_RENDERER: %s\n", glText(GL_RENDERER));
-    std::printf("GL_VERSION:  %s\n", glText(GL_VERSION));
-    wglMakeCurrent(nullptr, nullptr);
     return 0;
 }

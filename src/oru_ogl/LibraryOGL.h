@@ -1,0 +1,53 @@
+#ifndef ORU_OGL_LIBRARYOGL_H
+#define ORU_OGL_LIBRARYOGL_H
+
+#include "oru_ogl/OglExport.h"
+#include "oru_ogl/extensionator/ExtensionManager.h"
+
+namespace Oru
+{
+namespace OGL
+{
+
+class Context;
+
+/// Starting and stopping the layer for a context. Before any wrapper is used,
+/// create a context and call initializeExtensionator() for it (or keep an
+/// AutoInitializer alive); terminateExtensionator() stops it again.
+class ORU_OGL_API Library
+{
+public:
+    /// Builds the extension manager for the context (which is made current) and
+    /// the texture-unit table. Refuses a null context and a second start.
+    static void initializeExtensionator(Context* pContext, ExtensionManager::InitOptions const& options);
+    /// Destroys the extension manager, then the texture-unit table. Refuses a
+    /// shutdown without start-up.
+    static void terminateExtensionator();
+    static bool isExtensionatorInitialized();
+
+    Library& operator=(Library const&);
+
+private:
+    static bool bExtensionatorInitialized_;
+};
+
+/// Starts the layer with default options for the life of a scope.
+class ORU_OGL_API AutoInitializer
+{
+public:
+    explicit AutoInitializer(Context* pContext);
+    ~AutoInitializer() noexcept(false);
+    AutoInitializer(AutoInitializer const&) = delete;
+    AutoInitializer& operator=(AutoInitializer const&) = delete;
+
+    /// Leaves the layer started when this object goes; the caller then stops it.
+    void release();
+
+private:
+    bool bOwnsInitialization_;
+};
+
+} // namespace OGL
+} // namespace Oru
+
+#endif

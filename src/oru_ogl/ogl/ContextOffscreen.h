@@ -1,0 +1,34 @@
+#ifndef ORU_OGL_OGL_CONTEXTOFFSCREEN_H
+#define ORU_OGL_OGL_CONTEXTOFFSCREEN_H
+
+#include "oru_ogl/ogl/Context.h"
+
+namespace Oru
+{
+namespace OGL
+{
+
+class InternalWindow;
+
+/// A rendering context on a hidden window of the layer's own, for work that
+/// never reaches the screen: 8-bit RGB, single-buffered, one sample, no depth
+/// or stencil (render into framebuffer objects for anything else). Optionally
+/// shares its display lists and objects with another context.
+class ORU_OGL_API ContextOffscreen : public Context
+{
+public:
+    explicit ContextOffscreen(Context* shareWith = nullptr);
+    virtual ~ContextOffscreen() noexcept(false);
+
+    // A copy would share the hidden window and delete it twice.
+    ContextOffscreen(ContextOffscreen const&) = delete;
+    ContextOffscreen& operator=(ContextOffscreen const&) = delete;
+
+private:
+    InternalWindow* pWindow_;
+};
+
+} // namespace OGL
+} // namespace Oru
+
+#endif

@@ -1,0 +1,284 @@
+#include "oru_ogl/ogl/TextureUnit.h"
+
+#include "oru_ogl/Enforce.h"
+#include "oru_ogl/extensionator/ExtensionManager.h"
+#include "oru_ogl/extensionator/GLTypes.h"
+
+// The texture-unit table. One object per fixed-function unit of the context the
+// layer was started for, made by Library at start-up and deleted at shutdown.
+// The objects carry their index only; every GL call acts on the unit that is
+// active at the time, which the caller selects (TextureState::setActiveTexture).
+
+namespace Oru
+{
+namespace OGL
+{
+
+namespace
+{
+
+const GLenum kTexture3D = 0x806F;        // GL_TEXTURE_3D
+const GLenum kTextureRectangle = 0x84F5; // GL_TEXTURE_RECTANGLE_ARB
+
+} // namespace
+
+std::vector<TextureUnit*> TextureUnit::units_;
+unsigned int TextureUnit::nMaxTextureUnit_ = 0;
+
+// ---------------------------------------------------------------------------
+// The table.
+// ---------------------------------------------------------------------------
+
+// Builds the table once; a second call while it exists changes nothing. The
+// count comes from the extension manager, which must exist already.
+void TextureUnit::Create(Context* /*pContext*/)
+{
+    if (nMaxTextureUnit_ != 0)
+        return;
+    const unsigned int count = ExtensionManager::Instance()->numberOfTextureUnits();
+    units_.reserve(count);
+    for (unsigned int i = 0; i < count; ++i)
+        units_.push_back(new TextureUnit(i));
+    nMaxTextureUnit_ = count;
+}
+
+// Deletes every unit; the table is empty again and Unit() refuses until the
+// next start-up.
+void TextureUnit::Destroy()
+{
+    for (TextureUnit* unit : units_)
+        delete unit;
+    units_.clear();
+    nMaxTextureUnit_ = 0;
+}
+
+TextureUnit::TextureUnit(std::size_t unit)
+    : nUnit_(unit)
+{
+}
+
+TextureUnit::~TextureUnit() = default;
+
+// The unit's object. Units are numbered from 0 like GL_TEXTURE0 + n, and
+// the count is the driver's (ExtensionManager::numberOfTextureUnits()): the
+// image units where fragment programs exist, else the fixed-function units.
+//
+// Before start-up the count is 0, so every unit is refused with the same text:
+// the table does not exist yet.
+//
+// The returned object stays owned by the table; it is valid until shutdown.
+// Asking for a unit does not activate it: the operations act on the unit that
+// is active in GL, so Unit(1)->enable2D() while unit 0 is active enables
+// GL_TEXTURE_2D on unit 0. Select the unit with TextureState::setActiveTexture()
+// first.
+TextureUnit* TextureUnit::Unit(unsigned int unit)
+{
+    ORU_VERIFY(unit < nMaxTextureUnit_);
+    return units_[unit];
+}
+
+// ---------------------------------------------------------------------------
+// Binding, enabling and querying the targets on the active unit.
+//
+// Binding names the texture that a target of the active unit samples; enabling
+// a target makes the fixed-function pipeline sample it at all (shaders ignore
+// the enables). Of several enabled targets the highest wins: 3D over
+// rectangle over 2D over 1D. The layer's textures are bound with bind(), the
+// defaults (name 0) with the bind...Default() members; both are plain
+// glBindTexture calls, whatever was bound before.
+//
+// The queries read GL's state, not a copy kept here: a call made by other code
+// directly on GL is seen at once.
+// ---------------------------------------------------------------------------
+
+void TextureUnit::bindTexture(unsigned int target, unsigned int name) const
+{
+    verifyActiveTexture();
+    glBindTexture(target, name);
+}
+
+void TextureUnit::enable(unsigned int target) const
+{
+    verifyActiveTexture();
+    glEnable(target);
+}
+
+void TextureUnit::disable(unsigned int target) const
+{
+    verifyActiveTexture();
+    glDisable(target);
+}
+
+bool TextureUnit::isEnabled(unsigned int target) const
+{
+    verifyActiveTexture();
+    return glIsEnabled(target) == GL_TRUE;
+}
+
+void TextureUnit::bind1DDefault() const
+{
+    bindTexture(GL_TEXTURE_1D, 0);
+}
+
+void TextureUnit::bind2DDefault() const
+{
+    bindTexture(GL_TEXTURE_2D, 0);
+}
+
+void TextureUnit::bind3DDefault() const
+{
+    bindTexture(kTexture3D, 0);
+}
+
+void TextureUnit::bindRECTDefault() const
+{
+    bindTexture(kTextureRectangle, 0);
+}
+
+void TextureUnit::enable1D() const
+{
+    enable(GL_TEXTURE_1D);
+}
+
+void TextureUnit::enable2D() const
+{
+    enable(GL_TEXTURE_2D);
+}
+
+void TextureUnit::enable3D() const
+{
+    enable(kTexture3D);
+}
+
+void TextureUnit::enableRECT() const
+{
+    enable(kTextureRectangle);
+}
+
+void TextureUnit::disable1D() const
+{
+    disable(GL_TEXTURE_1D);
+}
+
+void TextureUnit::disable2D() const
+{
+    disable(GL_TEXTURE_2D);
+}
+
+void TextureUnit::disable3D() const
+{
+    disable(kTexture3D);
+}
+
+void TextureUnit::disableRECT() const
+{
+    disable(kTextureRectangle);
+}
+
+bool TextureUnit::isEnabled1D() const
+{
+    return isEnabled(GL_TEXTURE_1D);
+}
+
+bool TextureUnit::isEnabled2D() const
+{
+    return isEnabled(GL_TEXTURE_2D);
+}
+
+bool TextureUnit::isEnabled3D() const
+{
+    return isEnabled(kTexture3D);
+}
+
+bool TextureUnit::isEnabledRECT() const
+{
+    return isEnabled(kTextureRectangle);
+}
+
+// ---------------------------------------------------------------------------
+// The texture environment: how the texture colour Ct combines with the
+// incoming fragment colour Cf (and the environment colour Cc) on the unit.
+//
+//   MODULATE  Cf * Ct, the default
+//   REPLACE   Ct
+//   DECAL     Cf * (1 - At) + Ct * At for RGBA textures (colour only)
+//   BLEND     Cf * (1 - Ct) + Cc * Ct
+//   ADD       Cf + Ct, clamped
+//   COMBINE   as the unit's combiner state says (GL_COMBINE_RGB and friends)
+//
+// The mode is per unit and is part of the state that glPushAttrib saves
+// with GL_TEXTURE_BIT.
+// ---------------------------------------------------------------------------
+
+// The translation is checked before anything reaches GL: an environment
+// outside the table is refused without a GL call.
+void TextureUnit::setEnv(Environment mode) const
+{
+    verifyActiveTexture();
+    const GLint glMode = static_cast<GLint>(Environment2GL(mode));
+    glTexEnvi(GL_TEXTURE_ENV, GL_TEXTURE_ENV_MODE, glMode);
+}
+
+namespace
+{
+
+struct EnvironmentRow
+{
+    TextureUnit::Environment environment;
+    GLenum gl;
+};
+
+const EnvironmentRow kEnvironments[] = {
+    { TextureUnit::ADD, GL_ADD },           // 0x0104
+    { TextureUnit::BLEND, GL_BLEND },       // 0x0BE2
+    { TextureUnit::COMBINE, 0x8570 },       // GL_COMBINE
+    { TextureUnit::DECAL, GL_DECAL },       // 0x2101
+    { TextureUnit::MODULATE, GL_MODULATE }, // 0x2100
+    { TextureUnit::REPLACE, GL_REPLACE },   // 0x1E01
+};
+
+} // namespace
+
+unsigned int TextureUnit::Environment2GL(Environment environment)
+{
+    for (EnvironmentRow const& row : kEnvironments)
+    {
+        if (row.environment == environment)
+            return row.gl;
+    }
+    ORU_VERIFY(!"Environment enums are not all properly translated.");
+    return 0;
+}
+
+// The exact inverse: only the six GL modes of the table translate back. A GL
+// value such as GL_REPLACE_EXT's twin, or any combiner mode, is refused with
+// the same text as an unknown enumeration value.
+TextureUnit::Environment TextureUnit::GL2Environment(unsigned int environment)
+{
+    for (EnvironmentRow const& row : kEnvironments)
+    {
+        if (row.gl == environment)
+            return row.environment;
+    }
+    ORU_VERIFY(!"Environment enums are not all properly translated.");
+    return ADD;
+}
+
+// Every operation of a unit starts here: without the table there is no layer,
+// and the unit objects that a caller kept from an earlier start-up are gone.
+// The check reads the count, not the object. Unit() itself refuses while the
+// table is empty, so in practice this catches a unit object used across a
+// shutdown and a new start-up's gap, which is the caller's error: unit objects
+// are valid only between start-up and shutdown, and a pointer kept across a
+// shutdown must not be used at all. The text names the missing step, as the
+// usual cause is a wrapper used before the layer was started.
+//
+// It is the same text for every operation of a unit.
+void TextureUnit::verifyActiveTexture() const
+{
+    if (nMaxTextureUnit_ == 0)
+        ORU_THROW("TextureUnit::Create() was not called (Singleton not created.)");
+}
+
+} // namespace OGL
+} // namespace Oru
