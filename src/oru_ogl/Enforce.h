@@ -10,8 +10,10 @@
 //   ORU_ENFORCE_RANGE(nSize > 0)         "Range error: nSize > 0"
 //
 // and ORU_THROW(a << b) for a text composed in a string stream, e.g. with
-// GetLastError() or a TokenName appended. Keep each check on one line: the
-// line reported is the line of the macro.
+// GetLastError() or a TokenName appended. ORU_REQUIRE_LOADED(_cgmX, "glX")
+// refuses a call through an entry-point pointer that was never loaded, naming
+// the function, instead of calling through null. Keep each check on one line:
+// the line reported is the line of the macro.
 
 #include "oru_ogl/OglExport.h"
 
@@ -26,6 +28,7 @@ namespace detail
 {
 [[noreturn]] ORU_OGL_API void raiseInternal(char const* file, int line, char const* text);
 [[noreturn]] ORU_OGL_API void raiseInternal(char const* file, int line, std::string const& text);
+[[noreturn]] ORU_OGL_API void raiseNotLoaded(char const* file, int line, char const* function);
 } // namespace detail
 } // namespace OGL
 } // namespace Oru
@@ -41,5 +44,8 @@ namespace detail
 
 #define ORU_THROW(streamed) \
     do { std::ostringstream oruText_; oruText_ << streamed; ::Oru::OGL::detail::raiseInternal(__FILE__, __LINE__, oruText_.str()); } while (0)
+
+#define ORU_REQUIRE_LOADED(pointer, function) \
+    do { if (!(pointer)) ::Oru::OGL::detail::raiseNotLoaded(__FILE__, __LINE__, function); } while (0)
 
 #endif

@@ -1,11 +1,9 @@
 #include "oru_ogl/extensionator/OpenGLErrorChecker.h"
 
 #include "oru_ogl/ExceptionOGL.h"
-#include "oru_core/Exceptions.h"
+#include "oru_ogl/Enforce.h"
 
 #include <GL/glu.h>
-
-#include <string>
 
 // The other operations are generated from the catalogue (OpenGLErrorChecker<n>.cpp).
 
@@ -46,10 +44,7 @@ void OpenGLErrorChecker::raiseGLError(char const* file, unsigned int line, GLenu
 
 void OpenGLErrorChecker::raiseNotLoaded(char const* file, unsigned int line, char const* function)
 {
-    const std::string text = std::string(function) +
-                             " is not loaded: its entry-point pointer is null (the driver lacks it, or the layer "
-                             "has not loaded the core version or extension it belongs to)";
-    throw InternalException(file, static_cast<int>(line), text.c_str());
+    detail::raiseNotLoaded(file, static_cast<int>(line), function);
 }
 
 } // namespace OGL

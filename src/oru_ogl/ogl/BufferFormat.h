@@ -37,6 +37,7 @@ public:
     /// Throws InternalException for a value outside 0 to 23.
     BufferFormat(tePredefined format);
 
+    BufferFormat(BufferFormat const& other) = default;
     BufferFormat& operator=(BufferFormat const& other);
 
     unsigned int redBits() const { return red_; }

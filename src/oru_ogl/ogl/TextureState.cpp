@@ -1,5 +1,6 @@
 #include "oru_ogl/ogl/TextureState.h"
 
+#include "oru_ogl/Enforce.h"
 #include "oru_ogl/extensionator/EntryPoints.h"
 #include "oru_ogl/extensionator/ExtensionManager.h"
 
@@ -18,8 +19,11 @@ const GLenum kTextureRectangle = 0x84F5;  // GL_TEXTURE_RECTANGLE_ARB
 
 } // namespace
 
+// Through GL_ARB_multitexture's entry point, which a driver without
+// multitexturing does not have: that is refused by name.
 void TextureState::setActiveTexture(int unit)
 {
+    ORU_REQUIRE_LOADED(_cgmActiveTextureARB, "glActiveTextureARB");
     _cgmActiveTextureARB(kTexture0 + unit);
 }
 
