@@ -205,7 +205,7 @@ TEST_F(ProgramGLTest, RealLinkErrorsRaiseWithTheDriversLog)
     const char* unresolvedVarying[] = {
         "#version 110\nvoid main() { gl_Position = ftransform(); }\n",
         "#version 110\nvarying vec4 colour;\nvoid main() { gl_FragColor = colour; }\n"};
-    const char* missingMain[] = {kVertex, "#version 110\nvoid helper() {}\n"};
+    const char* missingMain[] = {kVertex, "#version 110\nvoid shade() {}\n"};
     const char* notCompiling[] = {kVertex, "#version 110\nvoid main() { gl_FragColor = 1.0 }\n"};
     for (const char** sources : {unresolvedVarying, missingMain, notCompiling})
     {
