@@ -1,0 +1,484 @@
+// Uniform setters against the driver: every member in its four flavours, read
+// back with glGetUniformiv/glGetUniformfv; the enabled check; the deliberate
+// irregularities of the array setters; active uniforms and validation.
+#include "support/GLSLGLTest.h"
+
+#include "oru_ogl/extensionator/EntryPoints.h"
+#include "oru_ogl/ogl/Program.h"
+
+#include <algorithm>
+#include <functional>
+#include <memory>
+#include <set>
+#include <string>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+using Oru::OGL::Program;
+using OruTest::FakeEntryPoint;
+using OruTest::GLSLGLTest;
+using OruTest::Raised;
+using OruTest::raisedBy;
+
+namespace
+{
+
+const char* kVertex = "#version 110\nvoid main() { gl_Position = ftransform(); }\n";
+
+// Every uniform contributes to the colour, so that the compiler keeps it.
+const char* kFragment = R"(#version 110
+#extension GL_ARB_texture_rectangle : enable
+uniform bool b1; uniform bvec2 b2; uniform bvec3 b3; uniform bvec4 b4;
+uniform int c1; uniform ivec2 c2; uniform ivec3 c3; uniform ivec4 c4;
+uniform int i1; uniform ivec2 i2; uniform ivec3 i3; uniform ivec4 i4;
+uniform float f1; uniform vec2 f2; uniform vec3 f3; uniform vec4 f4;
+uniform sampler1D s1; uniform sampler2D s2; uniform sampler3D s3; uniform sampler2DRect sr;
+uniform mat2 m2; uniform mat3 m3; uniform mat4 m4;
+uniform mat2 m2s[2]; uniform mat3 m3s[2]; uniform mat4 m4s[2];
+uniform int ia[3]; uniform ivec2 i2a[2]; uniform ivec3 i3a[2]; uniform ivec4 i4a[2];
+uniform float fa[3]; uniform vec2 f2a[2]; uniform vec3 f3a[2]; uniform vec3 f4a[2];
+void main()
+{
+    vec4 a = vec4(float(b1), vec2(b2), 0.0) + vec4(vec3(b3), 0.0) + vec4(b4);
+    a += vec4(float(c1 + i1), vec2(c2 + i2), 0.0) + vec4(vec3(c3 + i3), 0.0) + vec4(c4 + i4);
+    a += vec4(f1) + vec4(f2, f2) + vec4(f3, 1.0) + f4;
+    a += vec4(float(ia[0] + ia[1] + ia[2]), vec2(i2a[0] + i2a[1]), 0.0);
+    a += vec4(vec3(i3a[0] + i3a[1]), 0.0) + vec4(i4a[0] + i4a[1]);
+    a += vec4(fa[0] + fa[1] + fa[2], f2a[0] + f2a[1], 0.0) + vec4(f3a[0] + f3a[1] + f4a[0] + f4a[1], 0.0);
+    a += vec4(m2 * f2 + m2s[0] * f2 + m2s[1] * f2, 0.0, 0.0) + vec4(m3 * f3 + m3s[0] * f3 + m3s[1] * f3, 0.0);
+    a += m4 * f4 + m4s[0] * f4 + m4s[1] * f4;
+    a += texture1D(s1, f1) + texture2D(s2, f2) + texture3D(s3, f3) + texture2DRect(sr, f2);
+    gl_FragColor = a;
+}
+)";
+
+const char* const kMustBeLinked = "Program must be linked to get active uniform count";
+
+using Ints = std::vector<GLint>;
+using Floats = std::vector<GLfloat>;
+using Uploads = std::vector<std::pair<GLint, GLsizei>>;
+
+Uploads gUploads;
+
+void APIENTRY recordUniform1f(GLint location, GLfloat)
+{
+    gUploads.emplace_back(location, 1);
+}
+void APIENTRY recordUniformMatrix4fv(GLint location, GLsizei count, GLboolean, const GLfloat*)
+{
+    gUploads.emplace_back(location, count);
+}
+void APIENTRY recordUniform1iv(GLint location, GLsizei count, const GLint*)
+{
+    gUploads.emplace_back(location, count);
+}
+void APIENTRY recordUniform1fv(GLint location, GLsizei count, const GLfloat*)
+{
+    gUploads.emplace_back(location, count);
+}
+
+// n x n values given row by row, as GL stores them after a transposing upload.
+Floats transposed(Floats const& rows, int n)
+{
+    Floats columns(rows.size());
+    for (std::size_t m = 0; m < rows.size() / (n * n); ++m)
+        for (int r = 0; r < n; ++r)
+            for (int c = 0; c < n; ++c)
+                columns[m * n * n + c * n + r] = rows[m * n * n + r * n + c];
+    return columns;
+}
+
+Floats sequence(int count, float first)
+{
+    Floats values;
+    for (int i = 0; i < count; ++i)
+        values.push_back(first + static_cast<float>(i));
+    return values;
+}
+
+// The program above, linked and current in every test.
+class UniformGLTest : public GLSLGLTest
+{
+protected:
+    void SetUp() override
+    {
+        GLSLGLTest::SetUp();
+        if (IsSkipped() || HasFatalFailure())
+            return;
+        program_.reset(new Program());
+        program_->loadVertexShader(1, &kVertex, nullptr);
+        program_->loadFragmentShader(1, &kFragment, nullptr);
+        ASSERT_NO_THROW(program_->link(true));
+        program_->enable();
+        gUploads.clear();
+    }
+    void TearDown() override
+    {
+        if (program_)
+            program_->disable();
+        program_.reset();
+        GLSLGLTest::TearDown();
+    }
+
+    GLint loc(const char* name) const
+    {
+        return _cgmGetUniformLocation(program_->objectID(), name);
+    }
+
+    // The values of elements x components; array elements by their own names.
+    template <class T>
+    std::vector<T> readBack(std::string const& uniform, std::size_t components, std::size_t elements) const
+    {
+        std::vector<T> all;
+        for (std::size_t e = 0; e < elements; ++e)
+        {
+            const std::string name = elements > 1 ? uniform + "[" + std::to_string(e) + "]" : uniform;
+            std::vector<T> values(16);
+            const GLint location = loc(name.c_str());
+            EXPECT_NE(-1, location) << name;
+            if (location == -1)
+                return all;
+            if constexpr (std::is_same<T, GLint>::value)
+                _cgmGetUniformiv(program_->objectID(), location, values.data());
+            else
+                _cgmGetUniformfv(program_->objectID(), location, values.data());
+            all.insert(all.end(), values.begin(), values.begin() + components);
+        }
+        return all;
+    }
+
+    // Calls set(where, checked, values) in the four flavours, each with its own
+    // values: checked by location, checked by name, unchecked by location,
+    // unchecked by name; reads the uniform back after each.
+    template <class T, class Set>
+    void expectFlavours(const char* uniform, std::size_t elements, std::vector<std::vector<T>> const& values,
+                        Set set, std::vector<std::vector<T>> expected = {})
+    {
+        if (expected.empty())
+            expected = values;
+        const std::size_t components = values[0].size() / elements;
+        const GLint location = loc(uniform);
+        ASSERT_NE(-1, location) << uniform;
+        set(location, true, values[0]);
+        EXPECT_EQ(expected[0], readBack<T>(uniform, components, elements)) << uniform << ": checked, by location";
+        set(uniform, true, values[1]);
+        EXPECT_EQ(expected[1], readBack<T>(uniform, components, elements)) << uniform << ": checked, by name";
+        set(location, false, values[2]);
+        EXPECT_EQ(expected[2], readBack<T>(uniform, components, elements)) << uniform << ": unchecked, by location";
+        set(uniform, false, values[3]);
+        EXPECT_EQ(expected[3], readBack<T>(uniform, components, elements)) << uniform << ": unchecked, by name";
+    }
+
+    std::unique_ptr<Program> program_;
+};
+
+} // namespace
+
+TEST_F(UniformGLTest, BoolSettersUploadZeroOrOne)
+{
+    Program& p = *program_;
+    auto b = [](GLint v) { return v != 0; };
+    expectFlavours<GLint>("b1", 1, {{1}, {0}, {1}, {0}}, [&](auto at, bool checked, Ints v) {
+        checked ? p.setUniform(at, b(v[0])) : p.setUniform_Unsafe(at, b(v[0]));
+    });
+    expectFlavours<GLint>("b2", 1, {{1, 0}, {0, 1}, {1, 1}, {0, 0}}, [&](auto at, bool checked, Ints v) {
+        checked ? p.setUniform(at, b(v[0]), b(v[1])) : p.setUniform_Unsafe(at, b(v[0]), b(v[1]));
+    });
+    expectFlavours<GLint>("b3", 1, {{1, 0, 1}, {0, 1, 0}, {1, 1, 0}, {0, 0, 1}}, [&](auto at, bool checked, Ints v) {
+        checked ? p.setUniform(at, b(v[0]), b(v[1]), b(v[2])) : p.setUniform_Unsafe(at, b(v[0]), b(v[1]), b(v[2]));
+    });
+    expectFlavours<GLint>("b4", 1, {{1, 0, 1, 0}, {0, 1, 0, 1}, {1, 1, 0, 0}, {0, 0, 1, 1}},
+                          [&](auto at, bool checked, Ints v) {
+                              checked ? p.setUniform(at, b(v[0]), b(v[1]), b(v[2]), b(v[3]))
+                                      : p.setUniform_Unsafe(at, b(v[0]), b(v[1]), b(v[2]), b(v[3]));
+                          });
+}
+
+// Values above 127 show a sign extension; none above 1 would show normalising.
+TEST_F(UniformGLTest, UnsignedCharSettersZeroExtend)
+{
+    Program& p = *program_;
+    auto u = [](GLint v) { return static_cast<unsigned char>(v); };
+    expectFlavours<GLint>("c1", 1, {{200}, {255}, {128}, {7}}, [&](auto at, bool checked, Ints v) {
+        checked ? p.setUniform(at, u(v[0])) : p.setUniform_Unsafe(at, u(v[0]));
+    });
+    expectFlavours<GLint>("c2", 1, {{200, 1}, {255, 2}, {128, 3}, {7, 4}}, [&](auto at, bool checked, Ints v) {
+        checked ? p.setUniform(at, u(v[0]), u(v[1])) : p.setUniform_Unsafe(at, u(v[0]), u(v[1]));
+    });
+    expectFlavours<GLint>("c3", 1, {{200, 1, 250}, {255, 2, 129}, {128, 3, 0}, {7, 4, 190}},
+                          [&](auto at, bool checked, Ints v) {
+                              checked ? p.setUniform(at, u(v[0]), u(v[1]), u(v[2]))
+                                      : p.setUniform_Unsafe(at, u(v[0]), u(v[1]), u(v[2]));
+                          });
+    expectFlavours<GLint>("c4", 1, {{200, 1, 250, 9}, {255, 2, 129, 8}, {128, 3, 0, 254}, {7, 4, 190, 6}},
+                          [&](auto at, bool checked, Ints v) {
+                              checked ? p.setUniform(at, u(v[0]), u(v[1]), u(v[2]), u(v[3]))
+                                      : p.setUniform_Unsafe(at, u(v[0]), u(v[1]), u(v[2]), u(v[3]));
+                          });
+}
+
+TEST_F(UniformGLTest, IntAndFloatSetters)
+{
+    Program& p = *program_;
+    expectFlavours<GLint>("i1", 1, {{-5}, {6}, {-7}, {8}}, [&](auto at, bool checked, Ints v) {
+        checked ? p.setUniform(at, v[0]) : p.setUniform_Unsafe(at, v[0]);
+    });
+    expectFlavours<GLint>("i2", 1, {{-5, 1}, {6, 2}, {-7, 3}, {8, 4}}, [&](auto at, bool checked, Ints v) {
+        checked ? p.setUniform(at, v[0], v[1]) : p.setUniform_Unsafe(at, v[0], v[1]);
+    });
+    expectFlavours<GLint>("i3", 1, {{-5, 1, 9}, {6, 2, 10}, {-7, 3, 11}, {8, 4, 12}}, [&](auto at, bool checked, Ints v) {
+        checked ? p.setUniform(at, v[0], v[1], v[2]) : p.setUniform_Unsafe(at, v[0], v[1], v[2]);
+    });
+    expectFlavours<GLint>("i4", 1, {{-5, 1, 9, 13}, {6, 2, 10, 14}, {-7, 3, 11, 15}, {8, 4, 12, 16}},
+                          [&](auto at, bool checked, Ints v) {
+                              checked ? p.setUniform(at, v[0], v[1], v[2], v[3])
+                                      : p.setUniform_Unsafe(at, v[0], v[1], v[2], v[3]);
+                          });
+    expectFlavours<GLfloat>("f1", 1, {{0.5f}, {1.5f}, {-2.5f}, {3.5f}}, [&](auto at, bool checked, Floats v) {
+        checked ? p.setUniform(at, v[0]) : p.setUniform_Unsafe(at, v[0]);
+    });
+    expectFlavours<GLfloat>("f2", 1, {{0.5f, 1}, {1.5f, 2}, {-2.5f, 3}, {3.5f, 4}}, [&](auto at, bool checked, Floats v) {
+        checked ? p.setUniform(at, v[0], v[1]) : p.setUniform_Unsafe(at, v[0], v[1]);
+    });
+    expectFlavours<GLfloat>("f3", 1, {{0.5f, 1, 5}, {1.5f, 2, 6}, {-2.5f, 3, 7}, {3.5f, 4, 8}},
+                            [&](auto at, bool checked, Floats v) {
+                                checked ? p.setUniform(at, v[0], v[1], v[2]) : p.setUniform_Unsafe(at, v[0], v[1], v[2]);
+                            });
+    expectFlavours<GLfloat>("f4", 1, {{0.5f, 1, 5, 9}, {1.5f, 2, 6, 10}, {-2.5f, 3, 7, 11}, {3.5f, 4, 8, 12}},
+                            [&](auto at, bool checked, Floats v) {
+                                checked ? p.setUniform(at, v[0], v[1], v[2], v[3])
+                                        : p.setUniform_Unsafe(at, v[0], v[1], v[2], v[3]);
+                            });
+}
+
+// All samplers start on unit 0, where samplers of different kinds may not
+// meet: validation fails until each has its own unit.
+TEST_F(UniformGLTest, SamplerSettersAndValidation)
+{
+    Program& p = *program_;
+    EXPECT_FALSE(p.validate());
+    const std::vector<Ints> units = {{1}, {2}, {3}, {4}};
+    expectFlavours<GLint>("s1", 1, units, [&](auto at, bool checked, Ints v) {
+        checked ? p.setUniformSampler1D(at, v[0]) : p.setUniformSampler1D_Unsafe(at, v[0]);
+    });
+    expectFlavours<GLint>("s2", 1, units, [&](auto at, bool checked, Ints v) {
+        checked ? p.setUniformSampler2D(at, v[0]) : p.setUniformSampler2D_Unsafe(at, v[0] + 1);
+    }, {{1}, {2}, {4}, {5}});
+    expectFlavours<GLint>("s3", 1, units, [&](auto at, bool checked, Ints v) {
+        checked ? p.setUniformSampler3D(at, v[0]) : p.setUniformSampler3D_Unsafe(at, v[0] + 2);
+    }, {{1}, {2}, {5}, {6}});
+    expectFlavours<GLint>("sr", 1, units, [&](auto at, bool checked, Ints v) {
+        checked ? p.setUniformSampler2DRECT(at, v[0]) : p.setUniformSampler2DRECT_Unsafe(at, v[0] + 3);
+    }, {{1}, {2}, {6}, {7}});
+    EXPECT_TRUE(p.validate()); // units 4, 5, 6 and 7
+}
+
+// Single matrices are given row by row (transposed); arrays of two column by
+// column.
+TEST_F(UniformGLTest, MatrixSetters)
+{
+    Program& p = *program_;
+    for (int n = 2; n <= 4; ++n)
+    {
+        std::vector<Floats> one, two;
+        for (int flavour = 0; flavour < 4; ++flavour)
+        {
+            one.push_back(sequence(n * n, 10.0f * flavour));
+            two.push_back(sequence(2 * n * n, 100.0f * flavour));
+        }
+        std::vector<Floats> oneStored;
+        for (Floats const& rows : one)
+            oneStored.push_back(transposed(rows, n));
+        const std::string single = "m" + std::to_string(n);
+        const std::string array = single + "s";
+        expectFlavours<GLfloat>(single.c_str(), 1, one, [&](auto at, bool checked, Floats v) {
+            if (n == 2)
+                checked ? p.setUniformMatrix2(at, v.data(), 1) : p.setUniformMatrix2_Unsafe(at, v.data(), 1);
+            if (n == 3)
+                checked ? p.setUniformMatrix3(at, v.data(), 1) : p.setUniformMatrix3_Unsafe(at, v.data(), 1);
+            if (n == 4)
+                checked ? p.setUniformMatrix4(at, v.data(), 1) : p.setUniformMatrix4_Unsafe(at, v.data(), 1);
+        }, oneStored);
+        expectFlavours<GLfloat>(array.c_str(), 2, two, [&](auto at, bool checked, Floats v) {
+            if (n == 2)
+                checked ? p.setUniformMatrices2(at, 2, v.data(), 0) : p.setUniformMatrices2_Unsafe(at, 2, v.data(), 0);
+            if (n == 3)
+                checked ? p.setUniformMatrices3(at, 2, v.data(), 0) : p.setUniformMatrices3_Unsafe(at, 2, v.data(), 0);
+            if (n == 4)
+                checked ? p.setUniformMatrices4(at, 2, v.data(), 0) : p.setUniformMatrices4_Unsafe(at, 2, v.data(), 0);
+        });
+    }
+}
+
+TEST_F(UniformGLTest, ArraySetters)
+{
+    Program& p = *program_;
+    expectFlavours<GLint>("ia", 3, {{1, 2, 3}, {4, 5, 6}, {7, 8, 9}, {-1, -2, -3}}, [&](auto at, bool checked, Ints v) {
+        checked ? p.setUniform(at, 3, v.data()) : p.setUniform_Unsafe(at, 3, v.data());
+    });
+    expectFlavours<GLint>("i2a", 2, {{1, 2, 3, 4}, {5, 6, 7, 8}, {9, 10, 11, 12}, {-1, -2, -3, -4}},
+                          [&](auto at, bool checked, Ints v) {
+                              checked ? p.setUniform2(at, 2, v.data()) : p.setUniform2_Unsafe(at, 2, v.data());
+                          });
+    std::vector<Ints> sixes, eights;
+    for (GLint f = 0; f < 4; ++f)
+    {
+        sixes.push_back({f, 1, 2, 3, 4, 5 + f});
+        eights.push_back({f, 1, 2, 3, 4, 5, 6, 7 + f});
+    }
+    expectFlavours<GLint>("i3a", 2, sixes, [&](auto at, bool checked, Ints v) {
+        checked ? p.setUniform3(at, 2, v.data()) : p.setUniform3_Unsafe(at, 2, v.data());
+    });
+    expectFlavours<GLint>("i4a", 2, eights, [&](auto at, bool checked, Ints v) {
+        checked ? p.setUniform4(at, 2, v.data()) : p.setUniform4_Unsafe(at, 2, v.data());
+    });
+    std::vector<Floats> threes, fours, floatSixes;
+    for (int f = 0; f < 4; ++f)
+    {
+        threes.push_back(sequence(3, 0.5f + f));
+        fours.push_back(sequence(4, 10.5f + f));
+        floatSixes.push_back(sequence(6, 20.5f + f));
+    }
+    expectFlavours<GLfloat>("fa", 3, threes, [&](auto at, bool checked, Floats v) {
+        checked ? p.setUniform(at, 3, v.data()) : p.setUniform_Unsafe(at, 3, v.data());
+    });
+    expectFlavours<GLfloat>("f2a", 2, fours, [&](auto at, bool checked, Floats v) {
+        checked ? p.setUniform2(at, 2, v.data()) : p.setUniform2_Unsafe(at, 2, v.data());
+    });
+    expectFlavours<GLfloat>("f3a", 2, floatSixes, [&](auto at, bool checked, Floats v) {
+        checked ? p.setUniform3(at, 2, v.data()) : p.setUniform3_Unsafe(at, 2, v.data());
+    });
+    // setUniform4 with floats: two vec3 values from six floats.
+    expectFlavours<GLfloat>("f4a", 2, floatSixes, [&](auto at, bool checked, Floats v) {
+        checked ? p.setUniform4(at, 2, v.data()) : p.setUniform4_Unsafe(at, 2, v.data());
+    });
+}
+
+TEST_F(UniformGLTest, CheckedSettersRefuseAProgramThatIsNotCurrent)
+{
+    Program& p = *program_;
+    p.disable();
+    int n[8] = {};
+    float f[16] = {};
+    const unsigned char c = 1;
+    const std::vector<std::function<void()>> checked = {
+        [&] { p.setUniform(0, true); }, [&] { p.setUniform("b1", true); },
+        [&] { p.setUniform(0, true, true); }, [&] { p.setUniform("b2", true, true); },
+        [&] { p.setUniform(0, true, true, true); }, [&] { p.setUniform("b3", true, true, true); },
+        [&] { p.setUniform(0, true, true, true, true); }, [&] { p.setUniform("b4", true, true, true, true); },
+        [&] { p.setUniform(0, c); }, [&] { p.setUniform("c1", c); },
+        [&] { p.setUniform(0, c, c); }, [&] { p.setUniform("c2", c, c); },
+        [&] { p.setUniform(0, c, c, c); }, [&] { p.setUniform("c3", c, c, c); },
+        [&] { p.setUniform(0, c, c, c, c); }, [&] { p.setUniform("c4", c, c, c, c); },
+        [&] { p.setUniform(0, 1); }, [&] { p.setUniform("i1", 1); },
+        [&] { p.setUniform(0, 1, 1); }, [&] { p.setUniform("i2", 1, 1); },
+        [&] { p.setUniform(0, 1, 1, 1); }, [&] { p.setUniform("i3", 1, 1, 1); },
+        [&] { p.setUniform(0, 1, 1, 1, 1); }, [&] { p.setUniform("i4", 1, 1, 1, 1); },
+        [&] { p.setUniform(0, 1.0f); }, [&] { p.setUniform("f1", 1.0f); },
+        [&] { p.setUniform(0, 1.0f, 1.0f); }, [&] { p.setUniform("f2", 1.0f, 1.0f); },
+        [&] { p.setUniform(0, 1.0f, 1.0f, 1.0f); }, [&] { p.setUniform("f3", 1.0f, 1.0f, 1.0f); },
+        [&] { p.setUniform(0, 1.0f, 1.0f, 1.0f, 1.0f); }, [&] { p.setUniform("f4", 1.0f, 1.0f, 1.0f, 1.0f); },
+        [&] { p.setUniformSampler1D(0, 1); }, [&] { p.setUniformSampler1D("s1", 1); },
+        [&] { p.setUniformSampler2D(0, 1); }, [&] { p.setUniformSampler2D("s2", 1); },
+        [&] { p.setUniformSampler3D(0, 1); }, [&] { p.setUniformSampler3D("s3", 1); },
+        [&] { p.setUniformSampler2DRECT(0, 1); }, [&] { p.setUniformSampler2DRECT("sr", 1); },
+        [&] { p.setUniformMatrices2(0, 1, f, 0); }, [&] { p.setUniformMatrices3(0, 1, f, 0); },
+        [&] { p.setUniformMatrices4(0, 1, f, 0); },
+        [&] { p.setUniform(0, 1, n); }, [&] { p.setUniform2(0, 1, n); },
+        [&] { p.setUniform3(0, 1, n); }, [&] { p.setUniform4(0, 1, n); },
+        [&] { p.setUniform(0, 1, f); }, [&] { p.setUniform2(0, 1, f); },
+        [&] { p.setUniform3(0, 1, f); }, [&] { p.setUniform4(0, 1, f); },
+    };
+    std::set<int> lines;
+    for (std::size_t i = 0; i < checked.size(); ++i)
+    {
+        const Raised raised = raisedBy(checked[i]);
+        EXPECT_EQ("ogl/Program.cpp", raised.file) << "setter " << i;
+        EXPECT_EQ("Program must be enabled to set uniform parameter", raised.message) << "setter " << i;
+        lines.insert(raised.line);
+    }
+    EXPECT_EQ(checked.size(), lines.size()) << "each checked setter checks on its own line";
+    EXPECT_EQ(432, raisedBy([&] { p.setUniform("b3", true, false, true); }).line);
+
+    // The by-name and single matrix members refuse through setUniformMatricesN.
+    const int matrices4 = raisedBy([&] { p.setUniformMatrices4(0, 1, f, 0); }).line;
+    EXPECT_EQ(matrices4, raisedBy([&] { p.setUniformMatrices4("m4", 1, f, 0); }).line);
+    EXPECT_EQ(matrices4, raisedBy([&] { p.setUniformMatrix4(0, f, 0); }).line);
+    EXPECT_EQ(matrices4, raisedBy([&] { p.setUniformMatrix4("m4", f, 0); }).line);
+}
+
+// No GL call for a name GL does not know, except where the array setters
+// pass -1 on to GL; and the checked by-name array setters do not check.
+TEST_F(UniformGLTest, UnknownLocationsAndTheArrayIrregularities)
+{
+    Program& p = *program_;
+    EXPECT_NO_THROW(p.setUniform("missing", 1.0f)); // glUniform1f(-1, ...), which GL ignores
+    FakeEntryPoint<PFN_cgmUniform1f> uniform1f(_cgmUniform1f, &recordUniform1f);
+    FakeEntryPoint<PFN_cgmUniformMatrix4fv> matrix4(_cgmUniformMatrix4fv, &recordUniformMatrix4fv);
+    FakeEntryPoint<PFN_cgmUniform1iv> uniform1iv(_cgmUniform1iv, &recordUniform1iv);
+    FakeEntryPoint<PFN_cgmUniform1fv> uniform1fv(_cgmUniform1fv, &recordUniform1fv);
+    float f[16] = {};
+    int n[3] = {};
+
+    p.setUniform_Unsafe("missing", 1.0f);
+    p.setUniform_Unsafe(Program::nUnknownLocation, 1.0f);
+    p.setUniformMatrix4_Unsafe("missing", f, 0);
+    p.setUniformMatrices4_Unsafe(-1, 1, f, 0);
+    p.setUniform_Unsafe(-1, 3, n);
+    EXPECT_EQ(Uploads(), gUploads);
+
+    p.setUniform("missing", 1.0f);
+    p.setUniform_Unsafe(-1, 3, f);
+    p.setUniform_Unsafe("missing", 3, n);
+    p.setUniform_Unsafe("missing", 2, f);
+    EXPECT_EQ((Uploads{{-1, 1}, {-1, 3}, {-1, 3}, {-1, 2}}), gUploads);
+
+    p.disable();
+    gUploads.clear();
+    p.setUniform("ia", 3, n);
+    p.setUniform("fa", 2, f);
+    EXPECT_EQ((Uploads{{loc("ia"), 3}, {loc("fa"), 2}}), gUploads);
+    EXPECT_TRUE(raisedBy([&] { p.setUniform(loc("ia"), 3, n); }).raised);
+}
+
+TEST_F(UniformGLTest, ActiveUniforms)
+{
+    Program& p = *program_;
+    const unsigned int count = p.getActiveUniformCount();
+    const int maxLength = p.getMaxUniformStringLength();
+    std::vector<char> name(static_cast<std::size_t>(maxLength));
+    std::set<std::string> names;
+    int longest = 0;
+    for (unsigned int i = 0; i < count; ++i)
+    {
+        int size = 0;
+        unsigned int type = 0;
+        p.getActiveUniform(i, maxLength, &size, &type, name.data());
+        const std::string text = name.data();
+        longest = std::max(longest, static_cast<int>(text.size()) + 1);
+        if (text == "f3")
+        {
+            EXPECT_EQ(0x8B51u, type); // GL_FLOAT_VEC3
+        }
+        if (text.rfind("ia", 0) == 0)
+        {
+            EXPECT_EQ(3, size);
+        }
+        names.insert(text.substr(0, text.find('[')));
+    }
+    EXPECT_EQ(maxLength, longest);
+    for (const char* expected : {"b1", "c4", "i2", "f3", "s1", "sr", "m4", "m3s", "ia", "f4a"})
+        EXPECT_EQ(1u, names.count(expected)) << expected;
+    EXPECT_GE(count, 34u);
+
+    Program unlinked;
+    char buffer[8];
+    int size = 0;
+    unsigned int type = 0;
+    EXPECT_EQ(Raised::at("ogl/Program.cpp", 597, kMustBeLinked), raisedBy([&] { unlinked.getActiveUniformCount(); }));
+    EXPECT_EQ(Raised::at("ogl/Program.cpp", 610, kMustBeLinked),
+              raisedBy([&] { unlinked.getActiveUniform(0, 8, &size, &type, buffer); }));
+    EXPECT_EQ(Raised::at("ogl/Program.cpp", 626, kMustBeLinked),
+              raisedBy([&] { unlinked.getMaxUniformStringLength(); }));
+}
