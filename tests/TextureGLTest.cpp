@@ -227,7 +227,9 @@ TEST_F(TextureGLTest, NonPowerOfTwoSizesFollowTheDriversAnswers)
         // With rectangles alone the layer lets the size through and the
         // driver, which lacks non-power-of-two 2D textures, refuses it.
         if (!npot)
+        {
             EXPECT_EQ(static_cast<GLenum>(GL_INVALID_VALUE), glGetError());
+        }
     }
     else
     {
