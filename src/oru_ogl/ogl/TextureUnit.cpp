@@ -282,3 +282,40 @@ void TextureUnit::verifyActiveTexture() const
 
 } // namespace OGL
 } // namespace Oru
+
+// ---------------------------------------------------------------------------
+// Binding the layer's own textures. Only these four operations need the
+// texture classes, so their headers come in here.
+// ---------------------------------------------------------------------------
+
+#include "oru_ogl/ogl/Texture1.h"
+#include "oru_ogl/ogl/Texture2.h"
+#include "oru_ogl/ogl/Texture3.h"
+
+namespace Oru
+{
+namespace OGL
+{
+
+void TextureUnit::bind(Texture1D* texture) const
+{
+    bindTexture(GL_TEXTURE_1D, texture->objectID());
+}
+
+void TextureUnit::bind(Texture2D* texture) const
+{
+    bindTexture(GL_TEXTURE_2D, texture->objectID());
+}
+
+void TextureUnit::bind(Texture3D* texture) const
+{
+    bindTexture(kTexture3D, texture->objectID());
+}
+
+void TextureUnit::bind(TextureRECT* texture) const
+{
+    bindTexture(kTextureRectangle, texture->objectID());
+}
+
+} // namespace OGL
+} // namespace Oru

@@ -1,0 +1,108 @@
+#include "oru_ogl/ogl/Renderbuffer.h"
+
+#include "oru_ogl/Enforce.h"
+#include "oru_ogl/extensionator/EntryPoints.h"
+#include "oru_ogl/extensionator/ExtensionManager.h"
+#include "oru_ogl/ogl/GLConstants.h"
+
+namespace Oru
+{
+namespace OGL
+{
+
+namespace
+{
+
+// The stencil-index formats of GL_EXT_framebuffer_object, 0x8D45 to 0x8D49.
+const GLenum kFirstStencilIndex = 0x8D45;
+const GLenum kLastStencilIndex = GL_STENCIL_INDEX16_EXT;
+
+GLenum attachmentOf(GLenum format)
+{
+    if (format == GL_DEPTH_STENCIL_EXT || format == GL_DEPTH_COMPONENT ||
+        (format >= GL_DEPTH_COMPONENT16 && format <= GL_DEPTH_COMPONENT32))
+        return GL_DEPTH_ATTACHMENT_EXT;
+    if (format >= kFirstStencilIndex && format <= kLastStencilIndex)
+        return GL_STENCIL_ATTACHMENT_EXT;
+    return GL_COLOR_ATTACHMENT0_EXT;
+}
+
+} // namespace
+
+bool Renderbuffer::isSupported()
+{
+    return ExtensionManager::Instance()->isSupported(GL_EXT_FRAMEBUFFER_OBJECT);
+}
+
+int Renderbuffer::maxSize()
+{
+    GLint size = 0;
+    glGetIntegerv(GL_MAX_RENDERBUFFER_SIZE_EXT, &size);
+    return size;
+}
+
+// Sizes of 0 or below are left to GL. The name is checked after the storage
+// call, as GL reports a failed creation only through the name.
+Renderbuffer::Renderbuffer(unsigned int format, int width, int height)
+    : Object(GL_RENDERBUFFER_EXT, GL_RENDERBUFFER_BINDING_EXT)
+    , nFormat_(format)
+    , nAttachment_(0)
+    , nWidth_(width)
+    , nHeight_(height)
+{
+    ORU_VERIFY(Oru::OGL::ExtensionManager::Instance()->isSupported(GL_EXT_FRAMEBUFFER_OBJECT));
+    const int limit = maxSize();
+    if (width > limit)
+        ORU_THROW("Can't create renderbuffer of width " << width << ", a max width of " << limit << " is supported");
+    if (height > limit)
+        ORU_THROW("Can't create renderbuffer of width " << height << ", a max height of " << limit << " is supported");
+    _cgmGenRenderbuffersEXT(1, &n_ObjectID);
+    const GLuint previous = getBoundID();
+    bind();
+    _cgmRenderbufferStorageEXT(target(), format, width, height);
+    ORU_VERIFY(n_ObjectID != 0);
+    nAttachment_ = attachmentOf(format);
+    unbind();
+    _cgmBindRenderbufferEXT(target(), previous);
+}
+
+Renderbuffer::~Renderbuffer()
+{
+    _cgmDeleteRenderbuffersEXT(1, &n_ObjectID);
+}
+
+unsigned int Renderbuffer::format() const
+{
+    return nFormat_;
+}
+
+int Renderbuffer::width() const
+{
+    return nWidth_;
+}
+
+int Renderbuffer::height() const
+{
+    return nHeight_;
+}
+
+unsigned int Renderbuffer::attachment() const
+{
+    return nAttachment_;
+}
+
+void Renderbuffer::bind()
+{
+    _cgmBindRenderbufferEXT(target(), n_ObjectID);
+}
+
+// The text speaks of a framebuffer object: the two classes share it.
+void Renderbuffer::unbind()
+{
+    if (!isBound())
+        ORU_THROW("Framebuffer object must be bound before calling unbind()");
+    _cgmBindRenderbufferEXT(target(), 0);
+}
+
+} // namespace OGL
+} // namespace Oru
