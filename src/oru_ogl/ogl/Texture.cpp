@@ -143,7 +143,7 @@ public:
         GLint active = 0;
         glGetIntegerv(GL_ACTIVE_TEXTURE, &active);
         nRestore_ = active;
-        _cgmActiveTextureARB(GL_TEXTURE0 + unit);
+        TextureState::setActiveTexture(unit);
     }
 
     ~ActiveUnitGuard()
@@ -178,7 +178,7 @@ void Texture::setEnv_DEPRECATED_1_0(unsigned int mode)
 void Texture::bind_DEPRECATED_1_0(int unit)
 {
     if (unit != CURRENT_UNIT)
-        _cgmActiveTextureARB(GL_TEXTURE0 + unit);
+        TextureState::setActiveTexture(unit);
     glBindTexture(target(), n_ObjectID);
 }
 
@@ -186,7 +186,7 @@ void Texture::bind_DEPRECATED_1_0(int unit)
 void Texture::enable_DEPRECATED_1_0(int unit)
 {
     if (unit != CURRENT_UNIT)
-        _cgmActiveTextureARB(GL_TEXTURE0 + unit);
+        TextureState::setActiveTexture(unit);
     glEnable(target());
     glBindTexture(target(), n_ObjectID);
 }
