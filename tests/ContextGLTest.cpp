@@ -3,6 +3,7 @@
 // sharing, and what a long run of contexts leaves behind.
 #include "oru_ogl/InternalWindow.h"
 #include "oru_ogl/LibraryOGL.h"
+#include "oru_ogl/extensionator/ExtensionCatalogue.h"
 #include "oru_ogl/extensionator/windows/WglEntryPoints.h"
 #include "oru_ogl/ogl/ContextOffscreen.h"
 #include "oru_ogl/ogl/ContextWindowed.h"
@@ -223,6 +224,36 @@ TEST_F(ContextGLTest, ExtendedPathChoosesWhatWasAskedFor)
         }
         EXPECT_EQ(nullptr, wglGetCurrentContext());
     }
+}
+
+namespace
+{
+
+PROC WINAPI withoutChoosePixelFormat(LPCSTR name)
+{
+    return std::string(name) == "wglChoosePixelFormatARB" ? nullptr : wglGetProcAddress(name);
+}
+
+} // namespace
+
+TEST_F(ContextGLTest, ExtendedPathWithoutChoosePixelFormatIsRefusedAndCleansUp)
+{
+    ContextOffscreen layerContext;
+    AutoInitializer layer(&layerContext);
+    wglMakeCurrent(nullptr, nullptr);
+    InternalWindow window;
+    const int windowsBefore = windowsOfThisThread();
+    const ExtensionCatalogue::ProcAddressResolver previous =
+        ExtensionCatalogue::setProcAddressResolver(&withoutChoosePixelFormat);
+    const std::string failure = failureOf([&] {
+        ContextWindowed context(window.handle(), BufferFormat(BufferFormat::eRGBA8_S8D24), Context::eDoubleBuffered,
+                                Context::e4Samples, nullptr);
+    });
+    ExtensionCatalogue::setProcAddressResolver(previous);
+    EXPECT_EQ("wglChoosePixelFormatARB extension not supported", failure);
+    EXPECT_EQ(nullptr, wglGetCurrentContext());
+    EXPECT_EQ(windowsBefore, windowsOfThisThread()) << "the throw-away context's window was left behind";
+    EXPECT_EQ(0, GetPixelFormat(GetDC(window.handle())));
 }
 
 TEST_F(ContextGLTest, MultisamplingWithoutDoubleBufferingIsRefusedBeforeAnyPixelFormatIsSet)

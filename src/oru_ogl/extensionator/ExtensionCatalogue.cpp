@@ -114,6 +114,11 @@ char const* ExtensionCatalogue::missingEntryPoint(teExtension id)
     return nullptr;
 }
 
+PROC ExtensionCatalogue::resolve(char const* name)
+{
+    return gResolver(name);
+}
+
 ExtensionCatalogue::ProcAddressResolver ExtensionCatalogue::setProcAddressResolver(ProcAddressResolver resolver)
 {
     const ProcAddressResolver previous = gResolver;

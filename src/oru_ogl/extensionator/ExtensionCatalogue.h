@@ -47,6 +47,8 @@ public:
     /// previous resolver; pass it back to restore.
     typedef PROC(WINAPI* ProcAddressResolver)(LPCSTR name);
     static ProcAddressResolver setProcAddressResolver(ProcAddressResolver resolver);
+    /// Resolves one entry point the way the loaders do.
+    static PROC resolve(char const* name);
 };
 
 } // namespace OGL

@@ -2,6 +2,7 @@
 
 #include "oru_ogl/Enforce.h"
 #include "oru_ogl/InternalWindow.h"
+#include "oru_ogl/extensionator/ExtensionCatalogue.h"
 #include "oru_ogl/extensionator/ExtensionManager.h"
 #include "oru_ogl/extensionator/windows/WglEntryPoints.h"
 #include "oru_ogl/ogl/ScopedContextWrapper.h"
@@ -62,8 +63,7 @@ void Context::setThrowTestException(bool value)
 // AutoInitializer), not implicitly by whichever context comes first. The hook
 // stays for derived classes written against it, and tells them so.
 //
-// It reports a decision rather than a failure, which is why the text is a
-// sentence and not a check; callers see it as an InternalException.
+// A decision rather than a failure: the text is a sentence, not a check.
 void Context::initializeExtensions()
 {
     ORU_THROW("We can't initialize Extensions automatically any more with the new Singleton scheme");
@@ -117,13 +117,14 @@ int Context::choosePixelFormat(HDC hdc, const BufferFormat& format, bool doubleB
     return index;
 }
 
-// Looked up by name each time: the entry point belongs to whatever context is
-// current, which is not necessarily the one the layer was started for.
+// Looked up by name each time (with wglGetProcAddress, through the catalogue's
+// resolver): the entry point belongs to whatever context is current, which is
+// not necessarily the one the layer was started for.
 int Context::choosePixelFormat(HDC hdc, const BufferFormat& format, teBuffering buffering, teMultisample samples,
                                teWindowed target)
 {
-    const ChoosePixelFormatARB choose =
-        reinterpret_cast<ChoosePixelFormatARB>(reinterpret_cast<void*>(wglGetProcAddress("wglChoosePixelFormatARB")));
+    const ChoosePixelFormatARB choose = reinterpret_cast<ChoosePixelFormatARB>(
+        reinterpret_cast<void*>(ExtensionCatalogue::resolve("wglChoosePixelFormatARB")));
     if (!choose)
         ORU_THROW("wglChoosePixelFormatARB extension not supported");
     if (!hdc)
