@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
@@ -146,6 +147,41 @@ TEST_F(RekorderTest, FloatsKeepTheirBitsAndShowTheStreamsDefaultFormat)
         shown << value;
         plain.cgmPointSize("f", 1, value);
         EXPECT_EQ("glPointSize(makeFloat(" + std::to_string(bits) + ") /* " + shown.str() + " */);\n", take());
+    }
+}
+
+// The same for a spread of bit patterns and of doubles: what the recorder
+// writes is what a default-formatted stream writes.
+TEST_F(RekorderTest, NumbersReadAsTheStreamWritesThem)
+{
+    std::uint32_t state = 12345;
+    auto next = [&state] { return state = state * 1664525u + 1013904223u; };
+    for (int k = 0; k < 100000; ++k)
+    {
+        std::uint32_t bits = next();
+        float value;
+        std::memcpy(&value, &bits, sizeof(value));
+        std::ostringstream shown;
+        shown << value;
+        plain.cgmPointSize("f", 1, value);
+        const std::string text = take();
+        ASSERT_EQ("/* " + shown.str() + " */);\n", text.substr(text.find("/* "))) << bits;
+
+        const double number = (static_cast<double>(next()) - 2147483648.0) * std::pow(10.0, static_cast<int>(next() % 40) - 20) / 3;
+        std::ostringstream written;
+        written << number;
+        plain.cgmClearDepth("f", 1, number);
+        ASSERT_EQ("glClearDepth(" + written.str() + ");\n", take());
+    }
+    // Ties and values next to them: printf rounds the exact value, half to even.
+    const double edges[] = { 1234565, 1234575, 0.5, 2.5e-5, 999999.5, 9999995, 99999.95, 1e-45, 5e-324, 1e300, -1e-300,
+                            -0.0, HUGE_VAL, -HUGE_VAL, std::nan(""), -std::nan("") };
+    for (double number : edges)
+    {
+        std::ostringstream written;
+        written << number;
+        plain.cgmClearDepth("f", 1, number);
+        EXPECT_EQ("glClearDepth(" + written.str() + ");\n", take());
     }
 }
 

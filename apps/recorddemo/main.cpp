@@ -167,13 +167,24 @@ void drawScene()
     ORU_GL glDeleteTextures(2, textures);
 }
 
+// Binary, so that the files hold the very bytes written ("\n" line ends), and
+// with a large buffer: the tracer and the recorder write once per call, and
+// the toolchain's default buffer would make most of those writes system calls.
+bool open(std::ofstream& file, std::string const& path, std::vector<char>& buffer)
+{
+    buffer.resize(1 << 20);
+    file.rdbuf()->pubsetbuf(buffer.data(), static_cast<std::streamsize>(buffer.size()));
+    file.open(path, std::ios::binary);
+    return bool(file);
+}
+
 int run(std::string const& folder)
 {
     CreateDirectoryA(folder.c_str(), nullptr);
-    std::ofstream trace(folder + "\\trace.txt");
-    std::ofstream code(folder + "\\recording.cpp");
-    std::ofstream data(folder + "\\recording.bin", std::ios::binary);
-    if (!trace || !code || !data)
+    std::vector<char> buffers[3];
+    std::ofstream trace, code, data;
+    if (!open(trace, folder + "\\trace.txt", buffers[0]) || !open(code, folder + "\\recording.cpp", buffers[1]) ||
+        !open(data, folder + "\\recording.bin", buffers[2]))
     {
         std::fprintf(stderr, "recorddemo: cannot write into %s\n", folder.c_str());
         return 1;

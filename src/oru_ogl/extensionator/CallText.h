@@ -103,6 +103,10 @@ private:
             send();
     }
     void appendLong(char const* text, std::size_t length);
+    // %g writers into room made by reserve(kNumberLength).
+    static const std::size_t kNumberLength = 32;
+    static char* writeNumber(char* out, double value);
+    static char* sixDigits(double value, char* out);
 
     std::ostream& out_;
     char* end_;
