@@ -1,7 +1,6 @@
 #include "oru_ogl/extensionator/CallText.h"
 
 #include <charconv>
-#include <cmath>
 #include <cstdint>
 
 namespace Oru
@@ -111,7 +110,9 @@ char* CallText::sixDigits(double value, char* out)
         if (5 - exponent < kLowestPower || 5 - exponent > kHighestPower)
             return nullptr;
         scaled = magnitude * powerOfTen(5 - exponent);
-        if ((scaled > 999999.5 - 1e-6 && scaled < 999999.5 + 1e-6) || (scaled > 99999.5 - 1e-6 && scaled < 99999.5 + 1e-6))
+        const bool nearTop = scaled > 999999.5 - 1e-6 && scaled < 999999.5 + 1e-6;
+        const bool nearBottom = scaled > 99999.5 - 1e-6 && scaled < 99999.5 + 1e-6;
+        if (nearTop || nearBottom)
             return nullptr; // which way it rounds decides the exponent
         if (scaled >= 999999.5)
             ++exponent;
