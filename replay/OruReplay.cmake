@@ -6,8 +6,6 @@
 # the program's --data option and WIDTH x HEIGHT (256 x 256 unless given) the
 # default size of the windows it makes for recorded device contexts. The DLLs
 # the program needs are copied next to it.
-set(ORU_REPLAY_DIR ${CMAKE_CURRENT_LIST_DIR})
-
 function(oru_add_replay target)
   cmake_parse_arguments(R "" "CODE;DATA;WIDTH;HEIGHT" "" ${ARGN})
   if(NOT R_CODE OR NOT R_DATA)
@@ -25,7 +23,7 @@ function(oru_add_replay target)
   set(ORU_REPLAY_WIDTH ${R_WIDTH})
   set(ORU_REPLAY_HEIGHT ${R_HEIGHT})
   set(unit ${CMAKE_CURRENT_BINARY_DIR}/${target}_recording.cpp)
-  configure_file(${ORU_REPLAY_DIR}/oru_replay/RecordingUnit.cpp.in ${unit} @ONLY)
+  configure_file(${CMAKE_CURRENT_FUNCTION_LIST_DIR}/oru_replay/RecordingUnit.cpp.in ${unit} @ONLY)
 
   add_executable(${target} ${unit})
   target_link_libraries(${target} PRIVATE oru_replay_main)
