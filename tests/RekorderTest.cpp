@@ -156,6 +156,9 @@ TEST_F(RekorderTest, NumbersReadAsTheStreamWritesThem)
 {
     std::uint32_t state = 12345;
     auto next = [&state] { return state = state * 1664525u + 1013904223u; };
+    float previous = 0;
+    plain.cgmPointSize("f", 1, previous);
+    std::string previousText = take();
     for (int k = 0; k < 100000; ++k)
     {
         std::uint32_t bits = next();
@@ -166,6 +169,13 @@ TEST_F(RekorderTest, NumbersReadAsTheStreamWritesThem)
         plain.cgmPointSize("f", 1, value);
         const std::string text = take();
         ASSERT_EQ("/* " + shown.str() + " */);\n", text.substr(text.find("/* "))) << bits;
+        if (k % 2 == 0) // a value seen before is written the same, whatever came between
+        {
+            plain.cgmPointSize("f", 1, previous);
+            ASSERT_EQ(previousText, take());
+        }
+        previous = value;
+        previousText = text;
 
         const double number = (static_cast<double>(next()) - 2147483648.0) * std::pow(10.0, static_cast<int>(next() % 40) - 20) / 3;
         std::ostringstream written;

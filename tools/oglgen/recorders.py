@@ -120,7 +120,7 @@ def tracer_chunk(ops):
     body = []
     for f in ops:
         body.append(signature(f, "OpenGLTracer") + "\n{\n")
-        body.append("    CallText oruText(*outputStream_);\n    oruText.location(file, line);\n")
+        body.append("    CallText oruText(*outputStream_, floatTexts_);\n    oruText.location(file, line);\n")
         body.append('    oruText.put("%s(");\n' % f.name)
         body += _argument_statements(f, _tracer_pointer_writer)
         body.append('    oruText.put(")\\n");\n    oruText.send();\n')
@@ -138,7 +138,7 @@ def recorder_chunk(ops, special, refused):
         if f.name in refused:
             body.append('    writeLiteral(*outputStream_, "%s");\n' % (UNSUPPORTED % f.name))
         else:
-            body.append("    CallText oruText(*outputStream_);\n")
+            body.append("    CallText oruText(*outputStream_, floatTexts_);\n")
             body.append('    oruText.put("%s(");\n' % f.name)
             body += _argument_statements(f, None)
             body.append('    oruText.put(");");\n    oruText.lineEnd(lineComments_, file, line);\n    oruText.send();\n')

@@ -236,13 +236,32 @@ void CallText::glFloat(float value)
 {
     // Four pieces, one room check.
     reserve(10 + 11 + 5 + kNumberLength + 3);
+    const std::int32_t bits = bitsOf(value);
+    FloatTextCache::Entry* entry = nullptr;
+    if (floats_)
+    {
+        entry = &floats_->entries[(static_cast<std::uint32_t>(bits) * 2654435769u) >> 26];
+        if (entry->length != 0 && entry->bits == static_cast<std::uint32_t>(bits))
+        {
+            std::memcpy(end_, entry->text, entry->length);
+            end_ += entry->length;
+            return;
+        }
+    }
     char* p = end_;
     std::memcpy(p, "makeFloat(", 10);
-    p = writeSigned(p + 10, bitsOf(value));
+    p = writeSigned(p + 10, bits);
     std::memcpy(p, ") /* ", 5);
     p = writeNumber(p + 5, value);
     std::memcpy(p, " */", 3);
-    end_ = p + 3;
+    p += 3;
+    if (entry && p - end_ <= static_cast<std::ptrdiff_t>(sizeof(entry->text)))
+    {
+        entry->bits = static_cast<std::uint32_t>(bits);
+        entry->length = static_cast<unsigned char>(p - end_);
+        std::memcpy(entry->text, end_, entry->length);
+    }
+    end_ = p;
 }
 
 void CallText::handleDigits(void const* pointer)

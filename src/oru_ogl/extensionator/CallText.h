@@ -4,6 +4,7 @@
 // Internal to the library: the text writer of the tracer and the recorder.
 
 #include "oru_ogl/TokenName.h"
+#include "oru_ogl/extensionator/FloatTextCache.h"
 #include "oru_ogl/extensionator/GLTypes.h"
 
 #include <cstddef>
@@ -29,7 +30,9 @@ namespace detail
 class CallText
 {
 public:
-    explicit CallText(std::ostream& out) : out_(out), end_(buffer_) {}
+    explicit CallText(std::ostream& out) : out_(out), floats_(nullptr), end_(buffer_) {}
+    /// Reuses and keeps the text of the floats it writes in `floats`.
+    CallText(std::ostream& out, FloatTextCache& floats) : out_(out), floats_(&floats), end_(buffer_) {}
     CallText(CallText const&) = delete;
     CallText& operator=(CallText const&) = delete;
 
@@ -109,6 +112,7 @@ private:
     static char* sixDigits(double value, char* out);
 
     std::ostream& out_;
+    FloatTextCache* floats_;
     char* end_;
     // Large enough for all but a few calls with long names or strings, which
     // then take more than one write.

@@ -751,7 +751,7 @@ ORU_RECORD_INTS(MultiTexCoord4ivARB, 4)
 void OpenGLRekorder::cgmTexParameterfv(const char* file, unsigned int line, GLenum target, GLenum pname,
                                        const GLfloat* params)
 {
-    CallText t(*outputStream_);
+    CallText t(*outputStream_, floatTexts_);
     t.put("{\n    int tmp_i[] = { ");
     for (int k = 0; k < 4; ++k)
     {

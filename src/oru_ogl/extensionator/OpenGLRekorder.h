@@ -1,6 +1,7 @@
 #ifndef ORU_OGL_EXTENSIONATOR_OPENGLREKORDER_H
 #define ORU_OGL_EXTENSIONATOR_OPENGLREKORDER_H
 
+#include "oru_ogl/extensionator/FloatTextCache.h"
 #include "oru_ogl/extensionator/OpenGLInterceptorDecorator.h"
 
 #include <cstdint>
@@ -97,6 +98,7 @@ private:
     std::ostream* binaryOutputStream_;
     std::uint32_t binaryOffset_;
     bool lineComments_;
+    detail::FloatTextCache floatTexts_;
 };
 
 } // namespace OGL

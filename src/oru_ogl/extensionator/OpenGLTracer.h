@@ -1,6 +1,7 @@
 #ifndef ORU_OGL_EXTENSIONATOR_OPENGLTRACER_H
 #define ORU_OGL_EXTENSIONATOR_OPENGLTRACER_H
 
+#include "oru_ogl/extensionator/FloatTextCache.h"
 #include "oru_ogl/extensionator/OpenGLInterceptorDecorator.h"
 
 #include <iostream>
@@ -35,6 +36,7 @@ public:
 
 private:
     std::ostream* outputStream_;
+    detail::FloatTextCache floatTexts_;
 };
 
 } // namespace OGL
