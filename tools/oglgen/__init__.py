@@ -1,12 +1,14 @@
 """Code generator for oru_ogl: reads the catalogue, writes C++ into the build tree."""
 import sys
 
-from . import entrypoints, interceptors, tokens
+from . import entrypoints, interceptors, recorders, replay, tokens
 
 TARGETS = {
     "tokens": tokens.generate,
     "entrypoints": entrypoints.generate,
     "interceptors": interceptors.generate,
+    "recorders": recorders.generate,
+    "replay": replay.generate,
 }
 
 

@@ -8,9 +8,34 @@ import os
 from . import catalogue as cat
 from .output import banner, write_if_changed
 
-# Operations whose definitions are written by hand, per class.
+# Operations whose definitions are written by hand, per class. For the recorder
+# these are the entry points with a recording of their own (pointer data copied
+# to the binary stream, scratch arrays, ...); the ARB and EXT twins of these
+# names, with the same parameters, are added by recorders.specialised().
 HAND_WRITTEN = {
     "OpenGLErrorChecker": {"glBegin", "glEnd"},
+    "OpenGLRekorder": {
+        # matrices
+        "glLoadMatrixf", "glMultMatrixf", "glMultMatrixd",
+        # name arrays
+        "glDeleteTextures", "glDeleteFramebuffersEXT", "glDrawBuffersARB",
+        "glGenTextures", "glGenFramebuffersEXT",
+        # shaders and uniforms
+        "glShaderSource", "glShaderSourceARB", "glGetUniformLocation", "glGetUniformLocationARB",
+        "glUniform1fv", "glUniform2fv", "glUniform3fv", "glUniform4fv",
+        "glUniform1iv", "glUniform2iv", "glUniform3iv", "glUniform4iv", "glUniformMatrix2fv",
+        # queries into scratch storage
+        "glGetBooleanv", "glGetFloatv", "glGetIntegerv", "glGetObjectParameterfvARB", "glGetObjectParameterivARB",
+        "glGetTexLevelParameterfv", "glGetTexLevelParameteriv", "glGetProgramiv", "glGetShaderiv",
+        "glGetProgramInfoLog", "glGetAttachedShaders", "glGetAttachedObjectsARB",
+        "glGetActiveUniformARB", "glGetInfoLogARB",
+        # small vectors written inline
+        "glVertex2fv", "glMultiTexCoord1fv", "glMultiTexCoord2fv", "glMultiTexCoord3fv", "glMultiTexCoord4fv",
+        "glMultiTexCoord1iv", "glMultiTexCoord2iv", "glMultiTexCoord3iv", "glMultiTexCoord4iv",
+        "glTexParameterfv",
+        # pixels
+        "glTexImage2D", "glTexSubImage2D", "glReadPixels",
+    },
 }
 
 # Translation units per generated class: the build runs them in parallel.

@@ -1,0 +1,43 @@
+# oru_add_replay(<target> CODE <recorded code> DATA <binary file> [WIDTH <w>] [HEIGHT <h>])
+#
+# Makes a program that replays one recording of OpenGLRekorder and wglRekorder:
+# the code file becomes the body of a function compiled against the replay
+# harness (oru_replay, with main() from oru_replay_main). DATA is the default of
+# the program's --data option and WIDTH x HEIGHT (256 x 256 unless given) the
+# default size of the windows it makes for recorded device contexts. The DLLs
+# the program needs are copied next to it.
+function(oru_add_replay target)
+  cmake_parse_arguments(R "" "CODE;DATA;WIDTH;HEIGHT" "" ${ARGN})
+  if(NOT R_CODE OR NOT R_DATA)
+    message(FATAL_ERROR "oru_add_replay(${target}): CODE and DATA are required")
+  endif()
+  if(NOT R_WIDTH)
+    set(R_WIDTH 256)
+  endif()
+  if(NOT R_HEIGHT)
+    set(R_HEIGHT 256)
+  endif()
+  get_filename_component(ORU_REPLAY_CODE "${R_CODE}" ABSOLUTE)
+  get_filename_component(ORU_REPLAY_DATA "${R_DATA}" ABSOLUTE)
+  set(ORU_REPLAY_TARGET ${target})
+  set(ORU_REPLAY_WIDTH ${R_WIDTH})
+  set(ORU_REPLAY_HEIGHT ${R_HEIGHT})
+  set(unit ${CMAKE_CURRENT_BINARY_DIR}/${target}_recording.cpp)
+  configure_file(${CMAKE_CURRENT_FUNCTION_LIST_DIR}/oru_replay/RecordingUnit.cpp.in ${unit} @ONLY)
+
+  add_executable(${target} ${unit})
+  target_link_libraries(${target} PRIVATE oru_replay_main)
+  # A recording is one long function of straight-line calls: optimising it
+  # takes long and gains nothing. Its text is not ours to warn about.
+  if(MSVC)
+    set_source_files_properties(${unit} PROPERTIES COMPILE_OPTIONS "/Od;/w;/bigobj")
+  else()
+    set_source_files_properties(${unit} PROPERTIES COMPILE_OPTIONS "-O0;-w")
+  endif()
+  # The recorded text is #included: rebuild when it changes.
+  set_source_files_properties(${unit} PROPERTIES OBJECT_DEPENDS ${ORU_REPLAY_CODE})
+  add_custom_command(TARGET ${target} POST_BUILD
+    COMMAND ${CMAKE_COMMAND} -E copy_if_different $<TARGET_RUNTIME_DLLS:${target}> ${ORU_REPLAY_RUNTIME_DLLS}
+            $<TARGET_FILE_DIR:${target}>
+    COMMAND_EXPAND_LISTS)
+endfunction()

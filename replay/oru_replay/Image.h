@@ -1,0 +1,40 @@
+#ifndef ORU_REPLAY_IMAGE_H
+#define ORU_REPLAY_IMAGE_H
+
+#include <string>
+#include <vector>
+
+namespace Oru
+{
+namespace Replay
+{
+
+/// 8-bit RGBA pixels, rows bottom-up as glReadPixels returns them.
+struct Image
+{
+    unsigned int width = 0;
+    unsigned int height = 0;
+    std::vector<unsigned char> rgba;
+};
+
+/// Reads the RGBA pixels of the current read buffer, whatever the pixel-store
+/// state of the caller (it is saved and restored).
+Image readFramebuffer(unsigned int width, unsigned int height);
+
+/// Writes an 8-bit RGBA PNG (top row first, as PNG wants it). The image data
+/// is stored uncompressed: no library beyond the standard one is needed, and
+/// readPng reads it back.
+bool writePng(std::string const& path, Image const& image);
+
+/// Reads a PNG written by writePng: 8-bit RGBA, not interlaced, deflate with
+/// stored blocks only. False for anything else.
+bool readPng(std::string const& path, Image& image);
+
+/// Pixels that differ between two images of one size (every pixel when the
+/// sizes differ).
+unsigned long long differingPixels(Image const& a, Image const& b);
+
+} // namespace Replay
+} // namespace Oru
+
+#endif

@@ -1,0 +1,68 @@
+#ifndef ORU_REPLAY_REPLAY_H
+#define ORU_REPLAY_REPLAY_H
+
+// What a recording made by OpenGLRekorder and wglRekorder calls on, besides GL
+// itself. The names are global and spelled as the recorded text spells them.
+
+#include "oru_ogl/extensionator/GLTypes.h"
+
+#include <istream>
+#include <map>
+
+/// A recorded float: the bit pattern as written by the recorder, turned back
+/// into the very float. It converts to float for the GL parameters; the int
+/// conversion serves the int arrays of recorded glTexParameterfv calls, where
+/// the recorded text stores floats into ints (truncating them, as recorded)
+/// and which would otherwise be narrowing list-initialisations.
+struct RecordedFloat
+{
+    float value;
+    operator float() const { return value; }
+    operator int() const { return static_cast<int>(value); }
+};
+
+RecordedFloat makeFloat(int bits);
+
+/// A call that the recorder could not capture (pointer data without a recording
+/// of its own): reported on the standard error stream and counted.
+void OpenGLRekorderUnsupported(char const* message);
+
+/// The recording's binary side file, opened by the replay program.
+extern std::istream* pBinaryInputStream;
+
+/// Recorded device contexts mapped to the replay's own, and the one that the
+/// replayed wglCreateContext is to use.
+extern std::map<HDC, HDC> hdc_map_;
+extern HDC hDC_Ours;
+
+/// The application's DC when recording began: the replay makes a window and a
+/// context for it and makes them current, since the recording may start with
+/// GL calls on a context that was already current.
+void addCurrentAppDC(HDC recorded);
+/// Makes a window of the replay's size for a recorded DC, unless there is one.
+void GLRekorderCreateWindow(HDC recorded);
+/// wglMakeCurrent on the replay's own DC and context.
+BOOL GLRekorderMakeCurrent(HDC recorded, HGLRC recordedContext);
+/// Keeps the frame being presented (the replay's result), then presents it.
+BOOL GLRekorderSwapBuffers(HDC recorded);
+
+// The other recorded WGL calls name handles of the recording; the prelude of a
+// recording routes them here, to the replay's own handles.
+HGLRC oruReplayCreateContext(HDC ours);
+HGLRC oruReplayCreateLayerContext(HDC recorded, int layerPlane);
+BOOL oruReplayDeleteContext(HGLRC recorded);
+BOOL oruReplayShareLists(HGLRC recorded1, HGLRC recorded2);
+BOOL oruReplayCopyContext(unsigned long long recordedSource, unsigned long long recordedDestination, UINT mask);
+BOOL oruReplaySwapLayerBuffers(HDC recorded, UINT planes);
+
+/// One recording compiled into a replay program (oru_add_replay writes it).
+struct OruReplayRecording
+{
+    char const* dataFile; // default of --data
+    int width;            // default size of the replay's windows
+    int height;
+    void (*calls)();
+};
+extern const OruReplayRecording oruReplayRecording;
+
+#endif

@@ -1,0 +1,45 @@
+#ifndef ORU_REPLAY_WINDOW_H
+#define ORU_REPLAY_WINDOW_H
+
+#include <windows.h>
+
+#include <string>
+
+namespace Oru
+{
+namespace Replay
+{
+
+/// A borderless window whose client area is exactly width x height, with a
+/// double-buffered RGBA8, depth 24, stencil 8 pixel format set on its DC. The
+/// replay and the programs that record use the same one, so that a replayed
+/// frame can be compared with the recorded program's pixel for pixel.
+class Window
+{
+public:
+    Window(int width, int height);
+    ~Window();
+    Window(Window const&) = delete;
+    Window& operator=(Window const&) = delete;
+
+    bool valid() const { return dc_ != nullptr; }
+    /// Why the window or its pixel format could not be made.
+    std::string const& error() const { return error_; }
+
+    HWND handle() const { return window_; }
+    HDC deviceContext() const { return dc_; }
+    int width() const { return width_; }
+    int height() const { return height_; }
+
+private:
+    HWND window_ = nullptr;
+    HDC dc_ = nullptr;
+    int width_;
+    int height_;
+    std::string error_;
+};
+
+} // namespace Replay
+} // namespace Oru
+
+#endif

@@ -1,0 +1,133 @@
+#ifndef ORU_OGL_EXTENSIONATOR_CALLTEXT_H
+#define ORU_OGL_EXTENSIONATOR_CALLTEXT_H
+
+// Internal to the library: the text writer of the tracer and the recorder.
+
+#include "oru_ogl/TokenName.h"
+#include "oru_ogl/extensionator/FloatTextCache.h"
+#include "oru_ogl/extensionator/GLTypes.h"
+
+#include <cstddef>
+#include <cstring>
+#include <ostream>
+
+namespace Oru
+{
+namespace OGL
+{
+namespace detail
+{
+
+/// The text of one traced or recorded call, gathered on the stack and handed to
+/// the stream with one write. Tracing and recording run on every GL call, so
+/// nothing here allocates or consults the stream's locale or flags:
+/// - integers in decimal, floating point as a default-formatted stream writes
+///   it (%g, six significant digits);
+/// - pointers as libstdc++ writes them, "0" for null and otherwise "0x" and
+///   lowercase hex digits, on every toolchain. Recorded text then reads the
+///   same whoever built the library, and a handle that the recording writes
+///   behind its own "0x" (handleDigits) stays a valid literal.
+class CallText
+{
+public:
+    explicit CallText(std::ostream& out) : out_(out), floats_(nullptr), end_(buffer_) {}
+    /// Reuses and keeps the text of the floats it writes in `floats`.
+    CallText(std::ostream& out, FloatTextCache& floats) : out_(out), floats_(&floats), end_(buffer_) {}
+    CallText(CallText const&) = delete;
+    CallText& operator=(CallText const&) = delete;
+
+    template <std::size_t N>
+    void put(char const (&literal)[N])
+    {
+        append(literal, N - 1);
+    }
+    void append(char const* text, std::size_t length)
+    {
+        if (length > static_cast<std::size_t>(buffer_ + sizeof(buffer_) - end_))
+            return appendLong(text, length);
+        std::memcpy(end_, text, length);
+        end_ += length;
+    }
+    void cString(char const* text) { append(text, std::strlen(text)); }
+
+    /// One raw byte, as a stream inserts a char (GLbyte, GLubyte).
+    void character(char c)
+    {
+        reserve(1);
+        *end_++ = c;
+    }
+    void signedNumber(long long value);
+    void unsignedNumber(unsigned long long value);
+    void enumName(GLenum value) { cString(TokenName(value)); }
+    void boolean(GLboolean value) { cString(boolToString(value)); }
+    /// "(GLhandleARB)" and the handle in decimal.
+    void handleARB(GLhandleARB value)
+    {
+        put("(GLhandleARB)");
+        unsignedNumber(value);
+    }
+    /// makeFloat(<bit pattern as a signed 32-bit decimal>) /* <value> */
+    void glFloat(float value);
+    /// The bit pattern of a float as a signed 32-bit decimal.
+    void floatBits(float value);
+    /// %g with six significant digits, as std::ostream's default format.
+    void number(double value);
+    void address(void const* pointer);
+    /// The hex digits of a pointer without any prefix ("0" for null).
+    void handleDigits(void const* pointer);
+    /// The bytes up to the first zero; a null pointer is written as an address.
+    void text(void const* bytes);
+
+    /// "<file>:<line>: ", the head of a trace line.
+    void location(char const* file, unsigned int line);
+    /// "\t\t// <file>, line <line>\n" with comments on, else "\n".
+    void lineEnd(bool comments, char const* file, unsigned int line)
+    {
+        if (!comments)
+            return character('\n');
+        put("\t\t// ");
+        cString(file);
+        put(", line ");
+        unsignedNumber(line);
+        character('\n');
+    }
+
+    /// Hands the gathered text to the stream.
+    void send()
+    {
+        out_.write(buffer_, end_ - buffer_);
+        end_ = buffer_;
+    }
+
+private:
+    void reserve(std::size_t length)
+    {
+        if (length > static_cast<std::size_t>(buffer_ + sizeof(buffer_) - end_))
+            send();
+    }
+    void appendLong(char const* text, std::size_t length);
+    // %g writers into room made by reserve(kNumberLength).
+    static const std::size_t kNumberLength = 32;
+    static char* writeNumber(char* out, double value);
+    static char* sixDigits(double value, char* out);
+
+    std::ostream& out_;
+    FloatTextCache* floats_;
+    char* end_;
+    // Large enough for all but a few calls with long names or strings, which
+    // then take more than one write.
+    char buffer_[512];
+};
+
+/// A text known at compile time, written with one write.
+template <std::size_t N>
+inline void writeLiteral(std::ostream& out, char const (&literal)[N])
+{
+    out.write(literal, N - 1);
+}
+
+} // namespace detail
+} // namespace OGL
+} // namespace Oru
+
+#endif

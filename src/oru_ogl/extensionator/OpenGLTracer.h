@@ -1,0 +1,45 @@
+#ifndef ORU_OGL_EXTENSIONATOR_OPENGLTRACER_H
+#define ORU_OGL_EXTENSIONATOR_OPENGLTRACER_H
+
+#include "oru_ogl/extensionator/FloatTextCache.h"
+#include "oru_ogl/extensionator/OpenGLInterceptorDecorator.h"
+
+#include <iostream>
+
+namespace Oru
+{
+namespace OGL
+{
+
+/// A readable log of the GL calls: one line per call,
+///
+///     scene.cpp:12: glAlphaFunc(GL_GREATER, makeFloat(1056964608) /* 0.5 */)
+///
+/// then the call goes on to the next interceptor. Scalars are written as the
+/// recorder writes them; byte and character pointers as the text they point
+/// to (up to the first zero, so an array that is not zero-terminated is read
+/// past its end), other pointers as addresses. Results are not traced. The
+/// stream is not owned and not flushed.
+class ORU_OGL_API OpenGLTracer : public OpenGLInterceptorDecorator
+{
+public:
+    explicit OpenGLTracer(std::ostream& out = std::cout, OpenGLInterceptor* next = nullptr);
+    virtual ~OpenGLTracer();
+
+    std::ostream* outputStream() { return outputStream_; }
+    std::ostream const* outputStream() const { return outputStream_; }
+    void setOutputStream(std::ostream& out) { outputStream_ = &out; }
+
+#define ORU_GL_OPERATION_TAIL override
+#include "oru_ogl/extensionator/OpenGLInterceptorOperations.inc"
+#undef ORU_GL_OPERATION_TAIL
+
+private:
+    std::ostream* outputStream_;
+    detail::FloatTextCache floatTexts_;
+};
+
+} // namespace OGL
+} // namespace Oru
+
+#endif
