@@ -10,13 +10,10 @@
 #include "oru_ogl/ogl/ContextWrapped.h"
 #include "oru_ogl/ogl/ScopedContextWrapper.h"
 
-#include "oru_core/Exceptions.h"
-
-#include <gtest/gtest.h>
+#include "support/Raises.h"
 
 #include <psapi.h>
 
-#include <functional>
 #include <memory>
 #include <string>
 
@@ -35,17 +32,10 @@ public:
     using Context::setPixelFormat;
 };
 
-std::string failureOf(std::function<void()> const& action)
+template <class Action>
+std::string failureOf(Action&& action)
 {
-    try
-    {
-        action();
-    }
-    catch (Oru::ExceptionBase const& e)
-    {
-        return e.message();
-    }
-    return "<nothing thrown>";
+    return OruTest::raisedBy<Oru::ExceptionBase>(action).message;
 }
 
 int windowsOfThisThread()
@@ -62,6 +52,14 @@ int pixelFormatAttribute(HDC dc, int format, int attribute)
     int value = -1;
     _wcgmGetPixelFormatAttribivARB(dc, format, 0, 1, &attribute, &value);
     return value;
+}
+
+// Red, green, blue, [alpha,] stencil and depth bits.
+std::vector<int> bitDepths(Context& context, bool alpha)
+{
+    int r, g, b, a, s, d;
+    context.getBitDepths(&r, &g, &b, &a, &s, &d);
+    return alpha ? std::vector<int>{r, g, b, a, s, d} : std::vector<int>{r, g, b, s, d};
 }
 
 class ContextGLTest : public ::testing::Test
@@ -106,13 +104,7 @@ TEST_F(ContextGLTest, CreatingAndDestroyingKeepsTheCallersCurrentContext)
 TEST_F(ContextGLTest, OffscreenContextsAreEightBitRgbWithoutDepthOrStencil)
 {
     ContextOffscreen context;
-    int r, g, b, a, s, d;
-    context.getBitDepths(&r, &g, &b, &a, &s, &d);
-    EXPECT_EQ(8, r);
-    EXPECT_EQ(8, g);
-    EXPECT_EQ(8, b);
-    EXPECT_EQ(0, s);
-    EXPECT_EQ(0, d);
+    EXPECT_EQ((std::vector<int>{8, 8, 8, 0, 0}), bitDepths(context, false));
     PIXELFORMATDESCRIPTOR pfd = {};
     DescribePixelFormat(context.deviceContext(), GetPixelFormat(context.deviceContext()), sizeof(pfd), &pfd);
     EXPECT_EQ(0u, pfd.dwFlags & PFD_DOUBLEBUFFER);
@@ -149,12 +141,7 @@ TEST_F(ContextGLTest, ClassicPathNeedsNoStartedLayer)
     InternalWindow window;
     ContextWindowed context(window.handle(), BufferFormat(BufferFormat::eRGBA8_S8D24), Context::eDoubleBuffered,
                             Context::eNoMultisample, nullptr);
-    int r, g, b, a, s, d;
-    context.getBitDepths(&r, &g, &b, &a, &s, &d);
-    EXPECT_EQ(8, r);
-    EXPECT_EQ(8, a);
-    EXPECT_EQ(8, s);
-    EXPECT_EQ(24, d);
+    EXPECT_EQ((std::vector<int>{8, 8, 8, 8, 8, 24}), bitDepths(context, true));
     EXPECT_EQ(nullptr, wglGetCurrentContext());
 }
 
@@ -198,10 +185,7 @@ TEST_F(ContextGLTest, ExtendedPathChoosesWhatWasAskedFor)
         const int format = GetPixelFormat(multisampled.deviceContext());
         EXPECT_EQ(4, pixelFormatAttribute(multisampled.deviceContext(), format, 0x2042)); // WGL_SAMPLES_ARB
         EXPECT_EQ(1, pixelFormatAttribute(multisampled.deviceContext(), format, 0x2011)); // WGL_DOUBLE_BUFFER_ARB
-        int r, g, b, a, s, d;
-        multisampled.getBitDepths(&r, &g, &b, &a, &s, &d);
-        EXPECT_EQ(24, d);
-        EXPECT_EQ(8, s);
+        EXPECT_EQ((std::vector<int>{8, 8, 8, 8, 8, 24}), bitDepths(multisampled, true));
         EXPECT_EQ(nullptr, wglGetCurrentContext());
         EXPECT_EQ(windowsBefore, windowsOfThisThread());
     }
@@ -214,9 +198,7 @@ TEST_F(ContextGLTest, ExtendedPathChoosesWhatWasAskedFor)
         try
         {
             ContextWindowed context(other.handle(), format, Context::eDoubleBuffered, Context::eNoMultisample, nullptr);
-            int r, g, b, a, s, d;
-            context.getBitDepths(&r, &g, &b, &a, &s, &d);
-            EXPECT_EQ(static_cast<int>(format.redBits()), r);
+            EXPECT_EQ(static_cast<int>(format.redBits()), bitDepths(context, false)[0]);
         }
         catch (Oru::LogicalException const& e)
         {
@@ -286,17 +268,9 @@ TEST_F(ContextGLTest, ProtectedStepsRefuseBadArguments)
                   probe.choosePixelFormat(nullptr, BufferFormat(BufferFormat::eRGB8), Context::eDoubleBuffered,
                                           Context::eNoMultisample, Context::eWindow);
               }));
-    try
-    {
-        probe.initializeExtensions();
-        ADD_FAILURE() << "no exception";
-    }
-    catch (Oru::InternalException const& e)
-    {
-        EXPECT_STREQ("We can't initialize Extensions automatically any more with the new Singleton scheme", e.message());
-        EXPECT_STREQ("ogl/Context_WIN_OS.cpp", e.file());
-        EXPECT_EQ(69, e.line());
-    }
+    EXPECT_EQ(OruTest::Raised::at("ogl/Context_WIN_OS.cpp", 69,
+                                  "We can't initialize Extensions automatically any more with the new Singleton scheme"),
+              OruTest::raisedBy([&] { probe.initializeExtensions(); }));
 }
 
 TEST_F(ContextGLTest, WrappedAndScopedContexts)

@@ -4,7 +4,7 @@
 #include "oru_ogl/ExceptionOGL.h"
 #include "oru_ogl/ogl/BufferFormat.h"
 
-#include <gtest/gtest.h>
+#include "support/Raises.h"
 
 #include <cstring>
 #include <string>
@@ -46,17 +46,22 @@ void throwOGL()
 
 } // namespace
 
-TEST(ExceptionTest, InternalExceptionFromTheLibraryIsCaughtAsEveryBase)
+// Across the DLL boundary: an InternalException from the library, and an
+// ExceptionOGL, which is a LogicalException but not an internal one.
+TEST(ExceptionTest, ExceptionsAreCaughtAsTheirBasesOnly)
 {
-    EXPECT_TRUE(caughtAs<Oru::InternalException>(throwFromLibrary));
-    EXPECT_TRUE(caughtAs<Oru::LogicalException>(throwFromLibrary));
-    EXPECT_TRUE(caughtAs<Oru::ExceptionBase>(throwFromLibrary));
-    EXPECT_TRUE(caughtAs<std::exception>(throwFromLibrary));
-
-    EXPECT_FALSE(caughtAs<ExceptionOGL>(throwFromLibrary));
-    EXPECT_FALSE(caughtAs<Oru::ParameterException>(throwFromLibrary));
-    EXPECT_FALSE(caughtAs<Oru::ResourceException>(throwFromLibrary));
-    EXPECT_FALSE(caughtAs<Oru::CPURuntimeException>(throwFromLibrary));
+    for (void (*thrower)() : { throwFromLibrary, throwOGL })
+    {
+        const bool internal = thrower == throwFromLibrary;
+        EXPECT_EQ(internal, caughtAs<Oru::InternalException>(thrower));
+        EXPECT_EQ(!internal, caughtAs<ExceptionOGL>(thrower));
+        EXPECT_TRUE(caughtAs<Oru::LogicalException>(thrower));
+        EXPECT_TRUE(caughtAs<Oru::ExceptionBase>(thrower));
+        EXPECT_TRUE(caughtAs<std::exception>(thrower));
+        EXPECT_FALSE(caughtAs<Oru::ParameterException>(thrower));
+        EXPECT_FALSE(caughtAs<Oru::ResourceException>(thrower));
+        EXPECT_FALSE(caughtAs<Oru::CPURuntimeException>(thrower));
+    }
 }
 
 TEST(ExceptionTest, LibraryExceptionNamesItsShortSourcePathLineAndMessage)
@@ -68,13 +73,10 @@ TEST(ExceptionTest, LibraryExceptionNamesItsShortSourcePathLineAndMessage)
     }
     catch (Oru::ExceptionBase const& e)
     {
-        EXPECT_STREQ("ogl/BufferFormat.cpp", e.file());
+        const std::string message = "Trying to construct an buffer-format not recognized by this method";
+        EXPECT_EQ(OruTest::Raised::at("ogl/BufferFormat.cpp", e.line(), message), OruTest::raisedBy(throwFromLibrary));
         EXPECT_GT(e.line(), 0);
-        EXPECT_STREQ("Trying to construct an buffer-format not recognized by this method", e.message());
-        const std::string what = e.what();
-        EXPECT_EQ(std::string("ogl/BufferFormat.cpp(") + std::to_string(e.line()) +
-                      "): Trying to construct an buffer-format not recognized by this method",
-                  what);
+        EXPECT_EQ("ogl/BufferFormat.cpp(" + std::to_string(e.line()) + "): " + message, e.what());
     }
 }
 
@@ -94,16 +96,6 @@ TEST(ExceptionTest, ExceptionOGLKeepsItsErrorNumberThroughCopies)
     EXPECT_EQ(0x0502u, assigned.errorNumber());
     EXPECT_STREQ("a.cpp", assigned.file());
     EXPECT_STREQ("invalid operation", assigned.message());
-}
-
-TEST(ExceptionTest, ExceptionOGLIsALogicalExceptionButNotAnInternalOne)
-{
-    EXPECT_TRUE(caughtAs<ExceptionOGL>(throwOGL));
-    EXPECT_TRUE(caughtAs<Oru::LogicalException>(throwOGL));
-    EXPECT_TRUE(caughtAs<Oru::ExceptionBase>(throwOGL));
-    EXPECT_TRUE(caughtAs<std::exception>(throwOGL));
-    EXPECT_FALSE(caughtAs<Oru::InternalException>(throwOGL));
-    EXPECT_FALSE(caughtAs<Oru::ParameterException>(throwOGL));
 }
 
 TEST(ExceptionTest, SlicedCopyToLogicalExceptionKeepsFileLineAndMessage)
@@ -131,22 +123,18 @@ namespace
 
 std::string enforcementText(void (*check)())
 {
-    try
-    {
-        check();
-    }
-    catch (Oru::InternalException const& e)
-    {
-        EXPECT_STREQ("tests/ExceptionTest.cpp", e.file());
-        return e.message();
-    }
-    return "<no exception>";
+    const OruTest::Raised raised = OruTest::raisedBy(check);
+    EXPECT_EQ("tests/ExceptionTest.cpp", raised.file);
+    return raised.message;
 }
 
 } // namespace
 
 TEST(ExceptionTest, EnforcementTextsTakeTheFourForms)
 {
+    EXPECT_NO_THROW(ORU_ENFORCE(1 == 1));
+    EXPECT_NO_THROW(ORU_VERIFY(2 > 1));
+    EXPECT_NO_THROW(ORU_ENFORCE_RANGE(3 > 0));
     EXPECT_EQ("Enforce pContext != NULL", enforcementText([] {
                   void* pContext = NULL;
                   ORU_ENFORCE(pContext != NULL);
@@ -170,23 +158,6 @@ TEST(ExceptionTest, EnforcementTextsTakeTheFourForms)
 
 TEST(ExceptionTest, EnforcementReportsTheLineOfTheCheck)
 {
-    int expectedLine = 0;
-    try
-    {
-        expectedLine = __LINE__ + 1;
-        ORU_VERIFY(1 + 1 == 3);
-    }
-    catch (Oru::InternalException const& e)
-    {
-        EXPECT_EQ(expectedLine, e.line());
-        return;
-    }
-    FAIL() << "no exception";
-}
-
-TEST(ExceptionTest, PassingChecksThrowNothing)
-{
-    EXPECT_NO_THROW(ORU_ENFORCE(1 == 1));
-    EXPECT_NO_THROW(ORU_VERIFY(2 > 1));
-    EXPECT_NO_THROW(ORU_ENFORCE_RANGE(3 > 0));
+    const int line = __LINE__ + 1;
+    EXPECT_EQ(line, OruTest::raisedBy([] { ORU_VERIFY(1 + 1 == 3); }).line);
 }

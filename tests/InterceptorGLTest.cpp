@@ -2,6 +2,7 @@
 // caller's line, glBegin/glEnd pairs, results passed back, extension entry
 // points loaded from the driver and called through their pointers.
 #include "support/GLTest.h"
+#include "support/Raises.h"
 
 #include "oru_ogl/ExceptionOGL.h"
 #include "oru_ogl/extensionator/EntryPoints.h"
@@ -24,6 +25,8 @@ using Oru::OGL::ExtensionCatalogue;
 using Oru::OGL::OpenGLInterceptor;
 using Oru::OGL::teExtension;
 using OruTest::GLTest;
+using OruTest::Raised;
+using OruTest::raisedBy;
 namespace OGL = Oru::OGL;
 
 namespace
@@ -64,62 +67,33 @@ std::string gluText(GLenum error)
     return reinterpret_cast<char const*>(gluErrorString(error));
 }
 
+// The GL error an action raised, file, line, text and number.
+template <class Action>
+Raised glError(Action&& action)
+{
+    return raisedBy<ExceptionOGL>(action);
+}
+
 } // namespace
 
 TEST_F(InterceptorGLTest, GLErrorCarriesTheCallersFileLineTextAndCode)
 {
-    unsigned int line = 0;
-    try
-    {
-        line = __LINE__ + 1;
-        gl->cgmEnable(__FILE__, __LINE__, kNoSuchCapability);
-        FAIL() << "no exception";
-    }
-    catch (ExceptionOGL const& e)
-    {
-        EXPECT_STREQ("tests/InterceptorGLTest.cpp", e.file());
-        EXPECT_EQ(static_cast<int>(line), e.line());
-        EXPECT_EQ(static_cast<unsigned int>(GL_INVALID_ENUM), e.errorNumber());
-        EXPECT_EQ(gluText(GL_INVALID_ENUM), e.message());
-        EXPECT_FALSE(std::string(e.message()).empty());
-    }
-
-    try
-    {
-        gl->cgmLineWidth("caller.cpp", 123, -1.0f);
-        FAIL() << "no exception";
-    }
-    catch (ExceptionOGL const& e)
-    {
-        EXPECT_EQ(static_cast<unsigned int>(GL_INVALID_VALUE), e.errorNumber());
-        EXPECT_EQ(gluText(GL_INVALID_VALUE), e.message());
-        EXPECT_STREQ("caller.cpp", e.file());
-        EXPECT_EQ(123, e.line());
-    }
-}
-
-TEST_F(InterceptorGLTest, CallSiteMacroNamesTheLineOfTheCall)
-{
-    unsigned int line = 0;
-    try
-    {
-        line = __LINE__ + 1;
-        ORU_GL glEnable(kNoSuchCapability);
-        FAIL() << "no exception";
-    }
-    catch (ExceptionOGL const& e)
-    {
-        EXPECT_STREQ("tests/InterceptorGLTest.cpp", e.file());
-        EXPECT_EQ(static_cast<int>(line), e.line());
-    }
+    EXPECT_FALSE(gluText(GL_INVALID_ENUM).empty());
+    const int line = __LINE__ + 1;
+    const Raised direct = glError([&] { gl->cgmEnable(__FILE__, __LINE__, kNoSuchCapability); });
+    const Raised macro = glError([] { ORU_GL glEnable(kNoSuchCapability); }); // the line of the call
+    EXPECT_EQ(Raised::at("tests/InterceptorGLTest.cpp", line, gluText(GL_INVALID_ENUM), GL_INVALID_ENUM), direct);
+    EXPECT_EQ(Raised::at("tests/InterceptorGLTest.cpp", line + 1, gluText(GL_INVALID_ENUM), GL_INVALID_ENUM), macro);
+    EXPECT_EQ(Raised::at("caller.cpp", 123, gluText(GL_INVALID_VALUE), GL_INVALID_VALUE),
+              glError([&] { gl->cgmLineWidth("caller.cpp", 123, -1.0f); }));
     ORU_GL glDisable(GL_BLEND);
     EXPECT_EQ(GL_FALSE, ORU_GL glIsEnabled(GL_BLEND));
 }
 
+// glGetError between glBegin and glEnd would itself raise GL_INVALID_OPERATION,
+// which would surface at glEnd.
 TEST_F(InterceptorGLTest, NoErrorQueryInsideBeginEnd)
 {
-    // glGetError between glBegin and glEnd would itself raise GL_INVALID_OPERATION,
-    // which would surface at glEnd.
     EXPECT_NO_THROW({
         gl->cgmBegin("f", 1, GL_TRIANGLES);
         gl->cgmColor3f("f", 2, 1.0f, 0.0f, 0.0f);
@@ -134,16 +108,8 @@ TEST_F(InterceptorGLTest, ErrorsInsideAPairSurfaceAtItsEnd)
 {
     gl->cgmBegin("f", 1, GL_POINTS);
     EXPECT_NO_THROW(gl->cgmEnable("f", 2, GL_BLEND)); // not allowed inside a pair
-    try
-    {
-        gl->cgmEnd("f", 3);
-        FAIL() << "the error inside the pair was lost";
-    }
-    catch (ExceptionOGL const& e)
-    {
-        EXPECT_EQ(static_cast<unsigned int>(GL_INVALID_OPERATION), e.errorNumber());
-        EXPECT_EQ(3, e.line());
-    }
+    EXPECT_EQ(Raised::at("f", 3, gluText(GL_INVALID_OPERATION), GL_INVALID_OPERATION),
+              glError([&] { gl->cgmEnd("f", 3); }));
     // The pair is closed although glEnd's check threw.
     EXPECT_NO_THROW({
         gl->cgmBegin("f", 4, GL_POINTS);
@@ -154,24 +120,14 @@ TEST_F(InterceptorGLTest, ErrorsInsideAPairSurfaceAtItsEnd)
 TEST_F(InterceptorGLTest, SecondBeginIsRefusedAndNotCalled)
 {
     gl->cgmBegin("f", 1, GL_LINES);
-    try
-    {
-        gl->cgmBegin("f", 2, GL_LINES);
-        FAIL() << "no exception";
-    }
-    catch (ExceptionOGL const& e)
-    {
-        EXPECT_STREQ("Unbalanced glBegin()!", e.message());
-        EXPECT_EQ(0u, e.errorNumber());
-        EXPECT_EQ(2, e.line());
-    }
+    EXPECT_EQ(Raised::at("f", 2, "Unbalanced glBegin()!"), glError([&] { gl->cgmBegin("f", 2, GL_LINES); }));
     // Had the second glBegin reached GL, glEnd would report GL_INVALID_OPERATION.
     EXPECT_NO_THROW(gl->cgmEnd("f", 3));
 }
 
 TEST_F(InterceptorGLTest, EndWithoutBeginIsNotCalled)
 {
-    EXPECT_THROW(gl->cgmEnd("f", 1), ExceptionOGL);
+    EXPECT_EQ(Raised::at("f", 1, "Unbalanced glEnd()!"), glError([&] { gl->cgmEnd("f", 1); }));
     // Had glEnd reached GL outside a pair, an error would be pending now.
     EXPECT_EQ(static_cast<GLenum>(GL_NO_ERROR), glGetError());
 }
@@ -210,16 +166,8 @@ TEST_F(InterceptorGLTest, ExtensionEntryPointsAreCalledThroughTheirPointers)
     ASSERT_NE(0u, buffer);
     gl->cgmBindBuffer("f", 2, GL_ARRAY_BUFFER, buffer);
     EXPECT_EQ(GL_TRUE, gl->cgmIsBuffer("f", 3, buffer));
-    try
-    {
-        gl->cgmBindBuffer("g", 4, 0x1234, buffer);
-        FAIL() << "no exception";
-    }
-    catch (ExceptionOGL const& e)
-    {
-        EXPECT_EQ(static_cast<unsigned int>(GL_INVALID_ENUM), e.errorNumber());
-        EXPECT_STREQ("g", e.file());
-    }
+    EXPECT_EQ(Raised::at("g", 4, gluText(GL_INVALID_ENUM), GL_INVALID_ENUM),
+              glError([&] { gl->cgmBindBuffer("g", 4, 0x1234, buffer); }));
     gl->cgmBindBuffer("f", 5, GL_ARRAY_BUFFER, 0);
     gl->cgmDeleteBuffers("f", 6, 1, &buffer);
     EXPECT_EQ(GL_FALSE, gl->cgmIsBuffer("f", 7, buffer));
@@ -229,18 +177,10 @@ TEST_F(InterceptorGLTest, AnUnloadedEntryPointIsNamedNotCalled)
 {
     const PFN_cgmIsBuffer saved = _cgmIsBuffer;
     _cgmIsBuffer = nullptr;
-    try
-    {
-        gl->cgmIsBuffer("caller.cpp", 77, 1);
-        ADD_FAILURE() << "no exception";
-    }
-    catch (Oru::InternalException const& e)
-    {
-        EXPECT_EQ(0u, std::string(e.message()).rfind("glIsBuffer is not loaded", 0)) << e.message();
-        EXPECT_STREQ("caller.cpp", e.file());
-        EXPECT_EQ(77, e.line());
-    }
+    const Raised raised = raisedBy([&] { gl->cgmIsBuffer("caller.cpp", 77, 1); });
     _cgmIsBuffer = saved;
+    EXPECT_EQ(0u, raised.message.rfind("glIsBuffer is not loaded", 0)) << raised;
+    EXPECT_EQ(Raised::at("caller.cpp", 77, raised.message), raised);
 }
 
 TEST_F(InterceptorGLTest, DecoratorsForwardToTheCheckerWithTheCallersLine)
@@ -248,16 +188,8 @@ TEST_F(InterceptorGLTest, DecoratorsForwardToTheCheckerWithTheCallersLine)
     OruTest::ForwardingDecorator outer, inner;
     gl->addInterceptor(&inner);
     OpenGLInterceptor::Instance()->addInterceptor(&outer);
-    try
-    {
-        OpenGLInterceptor::Instance()->cgmEnable("deep.cpp", 5, kNoSuchCapability);
-        ADD_FAILURE() << "no exception";
-    }
-    catch (ExceptionOGL const& e)
-    {
-        EXPECT_STREQ("deep.cpp", e.file());
-        EXPECT_EQ(5, e.line());
-    }
+    EXPECT_EQ(Raised::at("deep.cpp", 5, gluText(GL_INVALID_ENUM), GL_INVALID_ENUM),
+              glError([] { OpenGLInterceptor::Instance()->cgmEnable("deep.cpp", 5, kNoSuchCapability); }));
     EXPECT_EQ(1u, outer.calls);
     EXPECT_EQ(1u, inner.calls);
     EXPECT_STREQ("cgmEnable", inner.lastOperation);
@@ -269,46 +201,52 @@ TEST_F(InterceptorGLTest, DecoratorsForwardToTheCheckerWithTheCallersLine)
 }
 
 // Every advertised extension that the catalogue knows loads, or stops exactly
-// at an entry point the driver lacks, with the earlier ones set.
+// at an entry point the driver lacks, with the earlier ones set; returns how
+// many were known and how many loaded.
 namespace
 {
 
-void expectLoadsOrStopsAtAMissingEntryPoint(teExtension ext, bool loaded, unsigned int& good, unsigned int& partial)
+std::pair<unsigned int, unsigned int> loadAdvertised(char const* advertised, bool wgl)
 {
-    char const* name = ExtensionCatalogue::name(ext);
-    const unsigned int count = ExtensionCatalogue::entryPointCount(ext);
-    if (loaded)
+    unsigned int known = 0, good = 0;
+    for (std::string const& token : split(advertised))
     {
-        ++good;
-        EXPECT_EQ(nullptr, ExtensionCatalogue::missingEntryPoint(ext)) << name;
-        return;
+        const teExtension ext = wgl ? ExtensionCatalogue::wglExtension(token.c_str())
+                                    : ExtensionCatalogue::glExtension(token.c_str());
+        if (ext == OGL::UNKNOWN_EXTENSION)
+            continue;
+        ++known;
+        char const* name = ExtensionCatalogue::name(ext);
+        if (wgl ? ExtensionCatalogue::loadWGL(ext) : ExtensionCatalogue::loadGL(ext))
+        {
+            ++good;
+            EXPECT_EQ(nullptr, ExtensionCatalogue::missingEntryPoint(ext)) << name;
+            continue;
+        }
+        char const* missing = ExtensionCatalogue::missingEntryPoint(ext);
+        EXPECT_NE(nullptr, missing) << name << " failed without a missing entry point";
+        if (!missing)
+            continue;
+        EXPECT_EQ(nullptr, wglGetProcAddress(missing)) << name << ": " << missing << " does resolve";
+        for (unsigned int k = 0; k < ExtensionCatalogue::entryPointCount(ext) &&
+                                 ExtensionCatalogue::entryPointName(ext, k) != std::string(missing); ++k)
+            EXPECT_TRUE(ExtensionCatalogue::isEntryPointLoaded(ext, k)) << name << " entry " << k;
+        std::cout << "  " << name << " lacks " << missing << "\n";
     }
-    ++partial;
-    char const* missing = ExtensionCatalogue::missingEntryPoint(ext);
-    ASSERT_NE(nullptr, missing) << name << " failed without a missing entry point";
-    EXPECT_EQ(nullptr, wglGetProcAddress(missing)) << name << ": " << missing << " does resolve";
-    for (unsigned int k = 0; k < count && ExtensionCatalogue::entryPointName(ext, k) != std::string(missing); ++k)
-        EXPECT_TRUE(ExtensionCatalogue::isEntryPointLoaded(ext, k)) << name << " entry " << k;
-    std::cout << "  " << name << " lacks " << missing << "\n";
+    std::cout << "  " << known << (wgl ? " WGL" : " GL") << " extensions known, " << good << " loaded\n";
+    return {known, good};
 }
 
 } // namespace
 
-TEST_F(InterceptorGLTest, AdvertisedGLExtensionsLoad)
+TEST_F(InterceptorGLTest, AdvertisedExtensionsLoad)
 {
-    unsigned int known = 0, good = 0, partial = 0;
-    for (std::string const& token : split(reinterpret_cast<char const*>(glGetString(GL_EXTENSIONS))))
-    {
-        const teExtension ext = ExtensionCatalogue::glExtension(token.c_str());
-        if (ext == OGL::UNKNOWN_EXTENSION)
-            continue;
-        ++known;
-        expectLoadsOrStopsAtAMissingEntryPoint(ext, ExtensionCatalogue::loadGL(ext), good, partial);
-    }
-    std::cout << "  " << known << " advertised GL extensions known, " << good << " loaded, " << partial
-              << " incomplete\n";
-    EXPECT_GT(known, 20u);
-    EXPECT_GT(good, 0u);
+    const auto gl = loadAdvertised(reinterpret_cast<char const*>(glGetString(GL_EXTENSIONS)), false);
+    EXPECT_GT(gl.first, 20u);
+    EXPECT_GT(gl.second, 0u);
+    ASSERT_TRUE(ExtensionCatalogue::loadWGL(OGL::WGL_ARB_EXTENSIONS_STRING));
+    ASSERT_NE(nullptr, _wcgmGetExtensionsStringARB);
+    EXPECT_GT(loadAdvertised(_wcgmGetExtensionsStringARB(wglGetCurrentDC()), true).second, 3u);
 }
 
 TEST_F(InterceptorGLTest, CoreVersionsUpToTheDriversLoad)
@@ -338,21 +276,4 @@ TEST_F(InterceptorGLTest, CoreVersionsUpToTheDriversLoad)
         }
     }
     EXPECT_GE(offered, 4u) << "the driver reports " << major << "." << minor;
-}
-
-TEST_F(InterceptorGLTest, AdvertisedWGLExtensionsLoad)
-{
-    ASSERT_TRUE(ExtensionCatalogue::loadWGL(OGL::WGL_ARB_EXTENSIONS_STRING));
-    ASSERT_NE(nullptr, _wcgmGetExtensionsStringARB);
-    unsigned int known = 0, good = 0, partial = 0;
-    for (std::string const& token : split(_wcgmGetExtensionsStringARB(wglGetCurrentDC())))
-    {
-        const teExtension ext = ExtensionCatalogue::wglExtension(token.c_str());
-        if (ext == OGL::UNKNOWN_EXTENSION)
-            continue;
-        ++known;
-        expectLoadsOrStopsAtAMissingEntryPoint(ext, ExtensionCatalogue::loadWGL(ext), good, partial);
-    }
-    std::cout << "  " << known << " advertised WGL extensions known, " << good << " loaded\n";
-    EXPECT_GT(good, 3u);
 }

@@ -4,9 +4,7 @@
 #include "oru_ogl/extensionator/OpenGLErrorChecker.h"
 #include "oru_ogl/testing/ForwardingDecorator.h"
 
-#include "oru_core/Exceptions.h"
-
-#include <gtest/gtest.h>
+#include "support/Raises.h"
 
 #include <cstdint>
 #include <cstring>
@@ -15,18 +13,14 @@ using Oru::OGL::ExceptionOGL;
 using Oru::OGL::OpenGLErrorChecker;
 using Oru::OGL::OpenGLInterceptor;
 using OruTest::ForwardingDecorator;
-
-TEST(InterceptorTest, InstanceCreatesOneErrorCheckerOnDemand)
-{
-    OpenGLInterceptor* first = OpenGLInterceptor::Instance();
-    ASSERT_NE(nullptr, first);
-    EXPECT_NE(nullptr, dynamic_cast<OpenGLErrorChecker*>(first));
-    EXPECT_EQ(first, OpenGLInterceptor::Instance());
-}
+using OruTest::Raised;
+using OruTest::raisedBy;
 
 TEST(InterceptorTest, DecoratorsArePushedAndPoppedLastInFirstOut)
 {
     OpenGLInterceptor* checker = OpenGLInterceptor::Instance();
+    EXPECT_NE(nullptr, dynamic_cast<OpenGLErrorChecker*>(checker)) << "one error checker, made on demand";
+    EXPECT_EQ(checker, OpenGLInterceptor::Instance());
     ForwardingDecorator a, b;
     OpenGLInterceptor::Instance()->addInterceptor(&a);
     OpenGLInterceptor::Instance()->addInterceptor(&b);
@@ -54,17 +48,9 @@ TEST(InterceptorTest, DestroyRefusesWhileADecoratorIsOnTop)
 {
     ForwardingDecorator top;
     OpenGLInterceptor::Instance()->addInterceptor(&top);
-    try
-    {
-        OpenGLInterceptor::destroy();
-        ADD_FAILURE() << "destroy() accepted a decorator on top";
-    }
-    catch (Oru::InternalException const& e)
-    {
-        EXPECT_STREQ("Enforce dynamic_cast<OpenGLErrorChecker *>(gInterceptor) != NULL", e.message());
-        EXPECT_STREQ("extensionator/OpenGLInterceptor.cpp", e.file());
-        EXPECT_EQ(59, e.line());
-    }
+    EXPECT_EQ(Raised::at("extensionator/OpenGLInterceptor.cpp", 59,
+                         "Enforce dynamic_cast<OpenGLErrorChecker *>(gInterceptor) != NULL"),
+              raisedBy([] { OpenGLInterceptor::destroy(); }));
     EXPECT_EQ(&top, OpenGLInterceptor::Instance());
     EXPECT_EQ(&top, OpenGLInterceptor::Instance()->popInterceptor());
 
@@ -79,18 +65,8 @@ TEST(InterceptorTest, DestroyRefusesWhileADecoratorIsOnTop)
 TEST(InterceptorTest, UnbalancedEndIsRefusedWithoutCallingGL)
 {
     // No context is current here: the refusal must come before any GL call.
-    try
-    {
-        OpenGLInterceptor::Instance()->cgmEnd("client.cpp", 41);
-        ADD_FAILURE() << "no exception";
-    }
-    catch (ExceptionOGL const& e)
-    {
-        EXPECT_STREQ("Unbalanced glEnd()!", e.message());
-        EXPECT_EQ(0u, e.errorNumber());
-        EXPECT_STREQ("client.cpp", e.file());
-        EXPECT_EQ(41, e.line());
-    }
+    EXPECT_EQ(Raised::at("client.cpp", 41, "Unbalanced glEnd()!"),
+              raisedBy<ExceptionOGL>([] { OpenGLInterceptor::Instance()->cgmEnd("client.cpp", 41); }));
 }
 
 #if defined(__GNUC__)

@@ -66,13 +66,8 @@ std::string driverLog(Shader const& shader)
     return log.data();
 }
 
-class ShaderGLTest : public GLSLGLTest
-{
-};
-
-class ShaderSupportGLTest : public LayerGLTest
-{
-};
+using ShaderGLTest = GLSLGLTest;
+using ShaderSupportGLTest = LayerGLTest;
 
 } // namespace
 
@@ -109,8 +104,15 @@ TEST_F(ShaderSupportGLTest, ConstructorsNeedOpenGL20BeforeAnyGLCall)
     EXPECT_EQ(0, gDeleteShaderCalls);
 }
 
-TEST_F(ShaderGLTest, ValidSourceLoadsAndCompiles)
+TEST_F(ShaderGLTest, ValidSourceLoadsAndCompilesAndTheDestructorDeletes)
 {
+    GLuint name = 0;
+    {
+        VertexShader shader;
+        name = shader.objectID();
+        EXPECT_EQ(GL_TRUE, _cgmIsShader(name));
+    }
+    EXPECT_EQ(GL_FALSE, _cgmIsShader(name));
     VertexShader vertex;
     FragmentShader fragment;
     ASSERT_NE(0u, vertex.objectID());
@@ -157,7 +159,8 @@ TEST_F(ShaderGLTest, EmptySourceIsNotLoaded)
     EXPECT_TRUE(shader.isLoaded());
 }
 
-TEST_F(ShaderGLTest, CheckedCompileRaisesWithTheDriversLog)
+// Checked compiles raise with the driver's log; unchecked ones never raise.
+TEST_F(ShaderGLTest, CompileErrors)
 {
     FragmentShader shader;
     load(shader, kBrokenSource);
@@ -166,10 +169,7 @@ TEST_F(ShaderGLTest, CheckedCompileRaisesWithTheDriversLog)
     EXPECT_FALSE(log.empty());
     EXPECT_EQ(Raised::at(kShaderFile, 122, "Program Compile Error: \n" + log), raised);
     EXPECT_FALSE(shader.isCompiled());
-}
 
-TEST_F(ShaderGLTest, UncheckedCompileNeverRaises)
-{
     VertexShader vertex;
     FragmentShader fragment;
     load(vertex, kBrokenSource);
@@ -198,15 +198,4 @@ TEST_F(ShaderGLTest, DestroyingAnUnnamedShaderRaisesWithoutDeleting)
     FakeEntryPoint<PFN_cgmDeleteShader> remove(_cgmDeleteShader, &countingDeleteShader);
     EXPECT_EQ(Raised::at(kShaderFile, 60, "_hObject != 0"), raisedBy([] { VertexShader shader; }));
     EXPECT_EQ(0, gDeleteShaderCalls);
-}
-
-TEST_F(ShaderGLTest, DestructorDeletesTheShader)
-{
-    GLuint name = 0;
-    {
-        VertexShader shader;
-        name = shader.objectID();
-        EXPECT_EQ(GL_TRUE, _cgmIsShader(name));
-    }
-    EXPECT_EQ(GL_FALSE, _cgmIsShader(name));
 }

@@ -9,9 +9,7 @@
 #include "oru_ogl/ogl/TextureState.h"
 #include "oru_ogl/ogl/TextureUnit.h"
 
-#include "oru_core/Exceptions.h"
-
-#include <gtest/gtest.h>
+#include "support/Raises.h"
 
 #include <cstring>
 #include <memory>
@@ -20,6 +18,8 @@
 #include <string>
 
 using namespace Oru::OGL;
+using OruTest::Raised;
+using OruTest::raisedBy;
 
 namespace
 {
@@ -81,18 +81,8 @@ TEST_F(StartupGLTest, StartMakesTheContextCurrentAndReadsItsVersion)
     EXPECT_NE(std::string::npos, version.find(manager->additionalVersionInfo()));
     EXPECT_EQ(ExtensionManager::VENDOR_OTHER, manager->vendor()); // "Mesa/X.org"
     if (!manager->hasReleaseVersion())
-    {
-        try
-        {
-            manager->releaseVersion();
-            ADD_FAILURE() << "releaseVersion() without a release number";
-        }
-        catch (Oru::InternalException const& e)
-        {
-            EXPECT_STREQ("nReleaseVersion_ != -1", e.message());
-            EXPECT_EQ(183, e.line());
-        }
-    }
+        EXPECT_EQ(Raised::at("extensionator/ExtensionManager.cpp", 183, "nReleaseVersion_ != -1"),
+                  raisedBy([&] { manager->releaseVersion(); }));
 }
 
 TEST_F(StartupGLTest, CoreVersionsAreMarkedOnlyForMajorVersionsOneAndTwo)
@@ -193,22 +183,14 @@ TEST_F(StartupGLTest, SecondStartIsRefusedAndTheFirstStays)
 {
     start();
     ExtensionManager* first = ExtensionManager::Instance();
-    try
-    {
-        start();
-        ADD_FAILURE() << "second start accepted";
-    }
-    catch (Oru::InternalException const& e)
-    {
-        EXPECT_STREQ("!bExtensionatorInitialized_", e.message());
-        EXPECT_EQ(60, e.line());
-    }
+    EXPECT_EQ(Raised::at("LibraryOGL.cpp", 60, "!bExtensionatorInitialized_"), raisedBy([] { start(); }));
     EXPECT_TRUE(Library::isExtensionatorInitialized());
     EXPECT_EQ(first, ExtensionManager::Instance());
     Library::terminateExtensionator();
     EXPECT_FALSE(Library::isExtensionatorInitialized());
-    EXPECT_THROW(ExtensionManager::Instance(), Oru::InternalException);
-    EXPECT_THROW(TextureUnit::Unit(0), Oru::InternalException);
+    EXPECT_EQ(Raised::at("extensionator/ExtensionManager.cpp", 129, "Enforce pInstance_ != NULL"),
+              raisedBy([] { ExtensionManager::Instance(); }));
+    EXPECT_EQ(Raised::at("ogl/TextureUnit.cpp", 76, "unit < nMaxTextureUnit_"), raisedBy([] { TextureUnit::Unit(0); }));
 
     // And it starts again.
     start();
@@ -233,15 +215,8 @@ TEST_F(StartupGLTest, AutoInitializerScopes)
     {
         AutoInitializer layer(context_.get());
         EXPECT_TRUE(Library::isExtensionatorInitialized());
-        try
-        {
-            AutoInitializer nested(context_.get());
-            ADD_FAILURE() << "nested start accepted";
-        }
-        catch (Oru::InternalException const& e)
-        {
-            EXPECT_STREQ("!bExtensionatorInitialized_", e.message());
-        }
+        EXPECT_EQ(Raised::at("LibraryOGL.cpp", 60, "!bExtensionatorInitialized_"),
+                  raisedBy([] { AutoInitializer nested(context_.get()); }));
         EXPECT_TRUE(Library::isExtensionatorInitialized());
     }
     EXPECT_FALSE(Library::isExtensionatorInitialized());
@@ -257,29 +232,15 @@ TEST_F(StartupGLTest, TextureUnitTableActsOnTheActiveUnit)
     start();
     if (!ExtensionManager::Instance()->isSupported(GL_ARB_MULTITEXTURE))
     {
-        try
-        {
-            TextureState::setActiveTexture(0);
-            ADD_FAILURE() << "a unit was activated without GL_ARB_multitexture";
-        }
-        catch (Oru::InternalException const& e)
-        {
-            EXPECT_EQ(0u, std::string(e.message()).rfind("glActiveTextureARB is not loaded", 0)) << e.message();
-        }
+        const Raised raised = raisedBy([] { TextureState::setActiveTexture(0); });
+        EXPECT_EQ(0u, raised.message.rfind("glActiveTextureARB is not loaded", 0)) << raised;
         return;
     }
     const unsigned int units = ExtensionManager::Instance()->numberOfTextureUnits();
     ASSERT_GE(units, 2u);
     EXPECT_NO_THROW(TextureUnit::Unit(units - 1));
-    try
-    {
-        TextureUnit::Unit(units);
-        ADD_FAILURE() << "unit " << units << " accepted";
-    }
-    catch (Oru::InternalException const& e)
-    {
-        EXPECT_STREQ("unit < nMaxTextureUnit_", e.message());
-    }
+    EXPECT_EQ(Raised::at("ogl/TextureUnit.cpp", 76, "unit < nMaxTextureUnit_"),
+              raisedBy([&] { TextureUnit::Unit(units); }));
 
     TextureState::setActiveTexture(0);
     EXPECT_EQ(0, TextureState::activeTexture());

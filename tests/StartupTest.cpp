@@ -6,11 +6,8 @@
 #include "oru_ogl/ogl/ContextWrapped.h"
 #include "oru_ogl/ogl/TextureUnit.h"
 
-#include "oru_core/Exceptions.h"
+#include "support/Raises.h"
 
-#include <gtest/gtest.h>
-
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -60,95 +57,37 @@ using Oru::OGL::ExtensionManagerTestAccess;
 using Oru::OGL::Library;
 using Oru::OGL::TextureUnit;
 using Access = ExtensionManagerTestAccess;
+using OruTest::Raised;
+using OruTest::raisedBy;
 
-namespace
-{
-
-struct Refusal
-{
-    std::string file;
-    int line;
-    std::string message;
-};
-
-Refusal refusalOf(std::function<void()> const& action)
-{
-    try
-    {
-        action();
-    }
-    catch (Oru::InternalException const& e)
-    {
-        return { e.file(), e.line(), e.message() };
-    }
-    return { "", 0, "<nothing thrown>" };
-}
-
-void expectRefusal(char const* file, int line, char const* message, std::function<void()> const& action)
-{
-    const Refusal r = refusalOf(action);
-    EXPECT_EQ(message, r.message);
-    EXPECT_EQ(file, r.file);
-    EXPECT_EQ(line, r.line) << message;
-}
-
-} // namespace
-
+// Unreadable numbers keep the values they had (0, 0 here); the release is reset first.
 TEST(StartupTest, VersionStrings)
 {
-    Access::Version v = Access::parse("2.0.5399 Build 7");
-    EXPECT_EQ(2u, v.major);
-    EXPECT_EQ(0u, v.minor);
-    EXPECT_EQ(5399, v.release);
-    EXPECT_EQ("Build 7", v.additional);
-
-    v = Access::parse("1.5.0 Vendor 91.47");
-    EXPECT_EQ(1u, v.major);
-    EXPECT_EQ(5u, v.minor);
-    EXPECT_EQ(0, v.release);
-    EXPECT_EQ("Vendor 91.47", v.additional);
-
-    v = Access::parse("2.1.2 Vendor 169.21");
-    EXPECT_EQ(2u, v.major);
-    EXPECT_EQ(1u, v.minor);
-    EXPECT_EQ(2, v.release);
-    EXPECT_EQ("Vendor 169.21", v.additional);
-
-    v = Access::parse("2.1 Vendor");
-    EXPECT_EQ(1u, v.minor);
-    EXPECT_EQ(-1, v.release);
-    EXPECT_EQ("Vendor", v.additional);
-
-    v = Access::parse("1.4");
-    EXPECT_EQ(1u, v.major);
-    EXPECT_EQ(4u, v.minor);
-    EXPECT_EQ(-1, v.release);
-    EXPECT_EQ("", v.additional);
-
-    v = Access::parse("4.5 (Compatibility Profile) Mesa 22.3.6");
-    EXPECT_EQ(4u, v.major);
-    EXPECT_EQ(5u, v.minor);
-    EXPECT_EQ(-1, v.release);
-    EXPECT_EQ("(Compatibility Profile) Mesa 22.3.6", v.additional);
-
-    v = Access::parse("3.0.0 - Build 8.15.10.2559");
-    EXPECT_EQ(3u, v.major);
-    EXPECT_EQ(0, v.release);
-    EXPECT_EQ("- Build 8.15.10.2559", v.additional);
-}
-
-TEST(StartupTest, UnreadableVersionNumbersKeepTheirPreviousValues)
-{
-    Access::Version v = Access::parse("x.y.z info");
-    EXPECT_EQ(0u, v.major); // the test's starting value
-    EXPECT_EQ(0u, v.minor);
-    EXPECT_EQ(-1, v.release); // reset before parsing, then unreadable
-    EXPECT_EQ("info", v.additional);
-
-    v = Access::parse("7");
-    EXPECT_EQ(7u, v.major);
-    EXPECT_EQ(-1, v.release);
-    EXPECT_EQ("", v.additional);
+    const struct
+    {
+        char const* text;
+        unsigned int major, minor;
+        int release;
+        char const* additional;
+    } rows[] = {
+        { "2.0.5399 Build 7", 2, 0, 5399, "Build 7" },
+        { "1.5.0 Vendor 91.47", 1, 5, 0, "Vendor 91.47" },
+        { "2.1.2 Vendor 169.21", 2, 1, 2, "Vendor 169.21" },
+        { "2.1 Vendor", 2, 1, -1, "Vendor" },
+        { "1.4", 1, 4, -1, "" },
+        { "4.5 (Compatibility Profile) Mesa 22.3.6", 4, 5, -1, "(Compatibility Profile) Mesa 22.3.6" },
+        { "3.0.0 - Build 8.15.10.2559", 3, 0, 0, "- Build 8.15.10.2559" },
+        { "x.y.z info", 0, 0, -1, "info" },
+        { "7", 7, 0, -1, "" },
+    };
+    for (auto const& row : rows)
+    {
+        const Access::Version v = Access::parse(row.text);
+        EXPECT_EQ(row.major, v.major) << row.text;
+        EXPECT_EQ(row.minor, v.minor) << row.text;
+        EXPECT_EQ(row.release, v.release) << row.text;
+        EXPECT_EQ(row.additional, v.additional) << row.text;
+    }
 }
 
 TEST(StartupTest, ExtensionStringsSplitOnBlanksOnly)
@@ -160,24 +99,24 @@ TEST(StartupTest, ExtensionStringsSplitOnBlanksOnly)
     EXPECT_TRUE(Access::split("   ").empty());
 }
 
-TEST(StartupTest, VendorClasses)
+// "ATI" in capitals anywhere, even inside a word, wins; the match is case-sensitive.
+TEST(StartupTest, VendorClassesAndNonPowerOfTwo)
 {
-    EXPECT_EQ(ExtensionManager::VENDOR_ATI, Access::vendor("ATI Technologies Inc."));
-    EXPECT_EQ(ExtensionManager::VENDOR_NVIDIA, Access::vendor("NVIDIA Corporation"));
-    EXPECT_EQ(ExtensionManager::VENDOR_ATI, Access::vendor("CREATIVE LABS")); // the capitals ATI inside a word
-    EXPECT_EQ(ExtensionManager::VENDOR_ATI, Access::vendor("NVIDIA and ATI"));
-    EXPECT_EQ(ExtensionManager::VENDOR_OTHER, Access::vendor("Nvidia Corporation"));
-    EXPECT_EQ(ExtensionManager::VENDOR_OTHER, Access::vendor("ati"));
-    EXPECT_EQ(ExtensionManager::VENDOR_OTHER, Access::vendor("Mesa/X.org"));
-}
-
-TEST(StartupTest, NonPowerOfTwoOnNvidiaNeedsTheExtension)
-{
-    EXPECT_FALSE(Access::nonPowerOfTwo(ExtensionManager::VENDOR_NVIDIA, false, true));
-    EXPECT_TRUE(Access::nonPowerOfTwo(ExtensionManager::VENDOR_NVIDIA, true, false));
-    EXPECT_TRUE(Access::nonPowerOfTwo(ExtensionManager::VENDOR_ATI, false, true));
-    EXPECT_TRUE(Access::nonPowerOfTwo(ExtensionManager::VENDOR_OTHER, false, true));
-    EXPECT_FALSE(Access::nonPowerOfTwo(ExtensionManager::VENDOR_OTHER, false, false));
+    const ExtensionManager::teVendor ati = ExtensionManager::VENDOR_ATI, nvidia = ExtensionManager::VENDOR_NVIDIA,
+                                     other = ExtensionManager::VENDOR_OTHER;
+    const std::pair<char const*, ExtensionManager::teVendor> vendors[] = {
+        { "ATI Technologies Inc.", ati }, { "NVIDIA Corporation", nvidia }, { "CREATIVE LABS", ati },
+        { "NVIDIA and ATI", ati },        { "Nvidia Corporation", other },  { "ati", other },
+        { "Mesa/X.org", other },
+    };
+    for (auto const& row : vendors)
+        EXPECT_EQ(row.second, Access::vendor(row.first)) << row.first;
+    // On NVIDIA only the extension counts.
+    EXPECT_FALSE(Access::nonPowerOfTwo(nvidia, false, true));
+    EXPECT_TRUE(Access::nonPowerOfTwo(nvidia, true, false));
+    EXPECT_TRUE(Access::nonPowerOfTwo(ati, false, true));
+    EXPECT_TRUE(Access::nonPowerOfTwo(other, false, true));
+    EXPECT_FALSE(Access::nonPowerOfTwo(other, false, false));
 }
 
 TEST(StartupTest, InitOptionsDefaultsAndCopies)
@@ -201,21 +140,24 @@ TEST(StartupTest, InitOptionsDefaultsAndCopies)
 
 TEST(StartupTest, RefusalsBeforeStartUp)
 {
+    const std::pair<Raised, Raised> rows[] = {
+        { Raised::at("extensionator/ExtensionManager.cpp", 129, "Enforce pInstance_ != NULL"),
+          raisedBy([] { ExtensionManager::Instance(); }) },
+        { Raised::at("LibraryOGL.cpp", 56, "Enforce pContext != NULL"),
+          raisedBy([] { Library::initializeExtensionator(nullptr, ExtensionManager::InitOptions()); }) },
+        { Raised::at("LibraryOGL.cpp", 121, "bExtensionatorInitialized_"),
+          raisedBy([] { Library::terminateExtensionator(); }) },
+        { Raised::at("LibraryOGL.cpp", 138, "Enforce pContext != NULL"),
+          raisedBy([] { Oru::OGL::AutoInitializer layer(nullptr); }) },
+        { Raised::at("ogl/TextureUnit.cpp", 76, "unit < nMaxTextureUnit_"), raisedBy([] { TextureUnit::Unit(0); }) },
+        { Raised::at("ogl/ContextWrapped.cpp", 13, "ContextWrapped::ctor invalid device"), // the device first
+          raisedBy([] { Oru::OGL::ContextWrapped(nullptr, nullptr); }) },
+        { Raised::at("ogl/ContextWrapped.cpp", 15, "ContextWrapped::ctor invalid rendering context"),
+          raisedBy([] { Oru::OGL::ContextWrapped(reinterpret_cast<HDC>(1), nullptr); }) },
+    };
+    for (auto const& row : rows)
+        EXPECT_EQ(row.first, row.second);
     EXPECT_FALSE(Library::isExtensionatorInitialized());
-    expectRefusal("extensionator/ExtensionManager.cpp", 129, "Enforce pInstance_ != NULL",
-                  [] { ExtensionManager::Instance(); });
-    expectRefusal("LibraryOGL.cpp", 56, "Enforce pContext != NULL",
-                  [] { Library::initializeExtensionator(nullptr, ExtensionManager::InitOptions()); });
-    EXPECT_FALSE(Library::isExtensionatorInitialized());
-    expectRefusal("LibraryOGL.cpp", 121, "bExtensionatorInitialized_", [] { Library::terminateExtensionator(); });
-    expectRefusal("LibraryOGL.cpp", 138, "Enforce pContext != NULL",
-                  [] { Oru::OGL::AutoInitializer layer(nullptr); });
-    EXPECT_FALSE(Library::isExtensionatorInitialized());
-}
-
-TEST(StartupTest, TextureUnitsBeforeStartUp)
-{
-    expectRefusal("ogl/TextureUnit.cpp", 76, "unit < nMaxTextureUnit_", [] { TextureUnit::Unit(0); });
 }
 
 TEST(StartupTest, EnvironmentTranslation)
@@ -229,20 +171,10 @@ TEST(StartupTest, EnvironmentTranslation)
         EXPECT_EQ(row.second, TextureUnit::Environment2GL(row.first));
         EXPECT_EQ(row.first, TextureUnit::GL2Environment(row.second));
     }
-    expectRefusal("ogl/TextureUnit.cpp", 249, "!\"Environment enums are not all properly translated.\"",
-                  [] { TextureUnit::Environment2GL(static_cast<TextureUnit::Environment>(6)); });
-    EXPECT_EQ("!\"Environment enums are not all properly translated.\"",
-              refusalOf([] { TextureUnit::GL2Environment(0x8571); }).message);
-}
-
-TEST(StartupTest, WrappedContextChecksDeviceFirst)
-{
-    const Refusal both = refusalOf([] { Oru::OGL::ContextWrapped(nullptr, nullptr); });
-    EXPECT_EQ("ContextWrapped::ctor invalid device", both.message);
-    EXPECT_EQ("ogl/ContextWrapped.cpp", both.file);
-    const HDC someDevice = reinterpret_cast<HDC>(1);
-    EXPECT_EQ("ContextWrapped::ctor invalid rendering context",
-              refusalOf([someDevice] { Oru::OGL::ContextWrapped(someDevice, nullptr); }).message);
+    const char* const text = "!\"Environment enums are not all properly translated.\"";
+    EXPECT_EQ(Raised::at("ogl/TextureUnit.cpp", 249, text),
+              raisedBy([] { TextureUnit::Environment2GL(static_cast<TextureUnit::Environment>(6)); }));
+    EXPECT_EQ(text, raisedBy([] { TextureUnit::GL2Environment(0x8571); }).message);
 }
 
 TEST(StartupTest, HiddenWindowsHaveAClassEachAndTakeItAlong)

@@ -107,21 +107,12 @@ protected:
 
     // A caller's state that differs from GL's defaults on both sides, so that
     // a transfer that forgot to restore something shows.
-    static void setUnusualCallerState()
+    static void setCallerState(bool unusual)
     {
-        glPixelStorei(GL_UNPACK_ALIGNMENT, 2);
-        glPixelStorei(GL_UNPACK_ROW_LENGTH, 3);
-        glPixelStorei(GL_UNPACK_SKIP_ROWS, 1);
-        glPixelStorei(GL_PACK_ALIGNMENT, 8);
-        glPixelStorei(GL_PACK_SWAP_BYTES, 0);
-    }
-
-    static void resetCallerState()
-    {
-        glPixelStorei(GL_UNPACK_ALIGNMENT, 4);
-        glPixelStorei(GL_UNPACK_ROW_LENGTH, 0);
-        glPixelStorei(GL_UNPACK_SKIP_ROWS, 0);
-        glPixelStorei(GL_PACK_ALIGNMENT, 4);
+        glPixelStorei(GL_UNPACK_ALIGNMENT, unusual ? 2 : 4);
+        glPixelStorei(GL_UNPACK_ROW_LENGTH, unusual ? 3 : 0);
+        glPixelStorei(GL_UNPACK_SKIP_ROWS, unusual ? 1 : 0);
+        glPixelStorei(GL_PACK_ALIGNMENT, unusual ? 8 : 4);
     }
 };
 
@@ -131,21 +122,31 @@ protected:
 // Storage.
 // ---------------------------------------------------------------------------
 
-TEST_F(TextureGLTest, MipChainOfA4x1TextureHasThreeLevels)
+// Width, height and depth of each level of the texture bound to target.
+std::vector<std::vector<GLint>> levelSizes(GLenum target, GLint levels)
 {
+    std::vector<std::vector<GLint>> sizes(levels);
+    for (GLint level = 0; level < levels; ++level)
+        for (GLenum name : { GLenum(GL_TEXTURE_WIDTH), GLenum(GL_TEXTURE_HEIGHT), GLenum(0x8071) /* depth */ })
+            sizes[level].push_back(-1), glGetTexLevelParameteriv(target, level, name, &sizes[level].back());
+    return sizes;
+}
+
+TEST_F(TextureGLTest, MipChainsInOneTwoAndThreeDimensions)
+{
+    typedef std::vector<std::vector<GLint>> Sizes;
     Texture2D texture(Texture::RGBA8, 4, 1, true);
     TextureUnit::Unit(0)->bind(&texture);
-    const GLint expected[4][2] = { { 4, 1 }, { 2, 1 }, { 1, 1 }, { 0, 0 } };
-    for (GLint level = 0; level < 4; ++level)
-    {
-        GLint width = -1, height = -1;
-        glGetTexLevelParameteriv(GL_TEXTURE_2D, level, GL_TEXTURE_WIDTH, &width);
-        glGetTexLevelParameteriv(GL_TEXTURE_2D, level, GL_TEXTURE_HEIGHT, &height);
-        EXPECT_EQ(expected[level][0], width) << "level " << level;
-        EXPECT_EQ(expected[level][1], height) << "level " << level;
-    }
+    EXPECT_EQ((Sizes{ { 4, 1, 1 }, { 2, 1, 1 }, { 1, 1, 1 }, { 0, 0, 0 } }), levelSizes(GL_TEXTURE_2D, 4));
     EXPECT_EQ(0u, texture.width(3));
     EXPECT_EQ(1u, texture.width(2));
+
+    Texture1D line(Texture::LUMINANCE8, 8, true);
+    TextureUnit::Unit(0)->bind(&line);
+    EXPECT_EQ((Sizes{ { 8, 1, 1 }, { 4, 1, 1 }, { 2, 1, 1 }, { 1, 1, 1 }, { 0, 0, 0 } }), levelSizes(GL_TEXTURE_1D, 5));
+    Texture3D volume(Texture::RGBA8, 4, 2, 1, true);
+    TextureUnit::Unit(0)->bind(&volume);
+    EXPECT_EQ((Sizes{ { 4, 2, 1 }, { 2, 1, 1 }, { 1, 1, 1 }, { 0, 0, 0 } }), levelSizes(0x806F, 4));
 }
 
 TEST_F(TextureGLTest, StorageLeavesTheCallersTextureBoundAndSetsNearestClampToEdge)
@@ -168,34 +169,6 @@ TEST_F(TextureGLTest, StorageLeavesTheCallersTextureBoundAndSetsNearestClampToEd
     glGetTexLevelParameteriv(GL_TEXTURE_2D, 3, GL_TEXTURE_INTERNAL_FORMAT, &internalFormat);
     EXPECT_EQ(0x8051, internalFormat) << "the last level 1x1 has the format too";
     EXPECT_EQ(8u * 2 * 3, static_cast<unsigned>(texture.sizeInBytes()));
-}
-
-TEST_F(TextureGLTest, OneAndThreeDimensionalMipChains)
-{
-    Texture1D line(Texture::LUMINANCE8, 8, true);
-    TextureUnit::Unit(0)->bind(&line);
-    GLint width = -1;
-    glGetTexLevelParameteriv(GL_TEXTURE_1D, 3, GL_TEXTURE_WIDTH, &width);
-    EXPECT_EQ(1, width);
-    glGetTexLevelParameteriv(GL_TEXTURE_1D, 4, GL_TEXTURE_WIDTH, &width);
-    EXPECT_EQ(0, width);
-
-    Texture3D volume(Texture::RGBA8, 4, 2, 1, true);
-    TextureUnit::Unit(0)->bind(&volume);
-    const GLenum target = 0x806F;
-    const GLint expected[3][3] = { { 4, 2, 1 }, { 2, 1, 1 }, { 1, 1, 1 } };
-    for (GLint level = 0; level < 3; ++level)
-    {
-        GLint w = -1, h = -1, d = -1;
-        glGetTexLevelParameteriv(target, level, GL_TEXTURE_WIDTH, &w);
-        glGetTexLevelParameteriv(target, level, GL_TEXTURE_HEIGHT, &h);
-        glGetTexLevelParameteriv(target, level, 0x8071 /* GL_TEXTURE_DEPTH */, &d);
-        EXPECT_EQ(expected[level][0], w) << level;
-        EXPECT_EQ(expected[level][1], h) << level;
-        EXPECT_EQ(expected[level][2], d) << level;
-    }
-    glGetTexLevelParameteriv(target, 3, GL_TEXTURE_WIDTH, &width);
-    EXPECT_EQ(0, width);
 }
 
 // The configurations hide the extensions; ORU_TEST_SIZE_RULE says which one
@@ -484,7 +457,7 @@ TEST_F(TextureGLTest, TransfersLeaveTheCallersStateAsTheyFoundIt)
     broken.setAlignment(static_cast<PixelUnpackParameters::teAlignment>(4));
 
     TextureUnit::Unit(0)->bind(&texture);
-    setUnusualCallerState();
+    setCallerState(true);
     const CallerState before = CallerState::capture();
 
     texture.subImage(0, 0, 0, 4, 4, F::RGBA, Texture::UNSIGNED_BYTE, image.data(), layout);
@@ -537,7 +510,7 @@ TEST_F(TextureGLTest, TransfersLeaveTheCallersStateAsTheyFoundIt)
     EXPECT_TRUE(raises([&] { texture.getPixelData(back.data(), 0, F::RGBA, Texture::UNSIGNED_BYTE, 3); },
                        "ogl/Texture.cpp", 0, "Invalid row byte alignment (must be of 1, 2, 4, or 8)."));
     EXPECT_EQ(plain, CallerState::capture());
-    resetCallerState();
+    setCallerState(false);
 }
 
 // ---------------------------------------------------------------------------

@@ -110,17 +110,12 @@ TEST(TextureTest, ChannelsOfInternalFormatsByGroupWithRGB4Refused)
 TEST(TextureTest, ChannelsOfPixelFormats)
 {
     using F = Texture::Format;
-    EXPECT_EQ(1u, Texture::Channels(F::COLOR_INDEX));
-    EXPECT_EQ(1u, Texture::Channels(F::RED));
-    EXPECT_EQ(1u, Texture::Channels(F::GREEN));
-    EXPECT_EQ(1u, Texture::Channels(F::BLUE));
-    EXPECT_EQ(1u, Texture::Channels(F::ALPHA));
-    EXPECT_EQ(1u, Texture::Channels(F::LUMINANCE));
-    EXPECT_EQ(2u, Texture::Channels(F::LUMINANCE_ALPHA));
-    EXPECT_EQ(3u, Texture::Channels(F::RGB));
-    EXPECT_EQ(3u, Texture::Channels(F::BGR));
-    EXPECT_EQ(4u, Texture::Channels(F::RGBA));
-    EXPECT_EQ(4u, Texture::Channels(F::BGRA));
+    const std::pair<F, std::size_t> rows[] = {
+        { F::COLOR_INDEX, 1 }, { F::RED, 1 }, { F::GREEN, 1 }, { F::BLUE, 1 }, { F::ALPHA, 1 }, { F::LUMINANCE, 1 },
+        { F::LUMINANCE_ALPHA, 2 }, { F::RGB, 3 }, { F::BGR, 3 }, { F::RGBA, 4 }, { F::BGRA, 4 },
+    };
+    for (auto const& row : rows)
+        EXPECT_EQ(row.second, Texture::Channels(row.first)) << static_cast<int>(row.first);
     EXPECT_TRUE(raises([] { Texture::Channels(static_cast<F>(11)); }, kSource, 381,
                        "InternalFormat enums are not all properly sized."));
 }
@@ -135,6 +130,7 @@ TEST(TextureTest, SizeInBytesMultipliesChannelBytesChannelsAndTexels)
     EXPECT_EQ(16u * 8, Texture::SizeInBytes(Texture::RGBA32F, 8, 1, 1));
     EXPECT_EQ(4u, Texture::SizeInBytes(Texture::INTENSITY32F, 1, 1, 1));
     EXPECT_EQ(0u, Texture::SizeInBytes(Texture::RGBA8, 0, 4, 4));
+    EXPECT_EQ(-1, Texture::CurrentUnit_DEPRECATED_1_0());
 }
 
 TEST(TextureTest, SizeInBytesRefusesFormatsWithoutWholeByteChannelsByTheirLayerValue)
@@ -152,9 +148,4 @@ TEST(TextureTest, SizeInBytesRefusesFormatsWithoutWholeByteChannelsByTheirLayerV
     EXPECT_TRUE(raises([] { Texture::SizeInBytes(Texture::RGB4, 1, 1, 1); }, kSource, 495, text));
     EXPECT_TRUE(raises([] { Texture::SizeInBytes(static_cast<Texture::InternalFormat>(50), 1, 1, 1); }, kSource, 495,
                        text));
-}
-
-TEST(TextureTest, CurrentUnitIsMinusOne)
-{
-    EXPECT_EQ(-1, Texture::CurrentUnit_DEPRECATED_1_0());
 }

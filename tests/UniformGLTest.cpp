@@ -170,86 +170,50 @@ protected:
         EXPECT_EQ(expected[3], readBack<T>(uniform, components, elements)) << uniform << ": unchecked, by name";
     }
 
+    // The N-component setter, checked or not, with v converted.
+    template <std::size_t... I, class At, class V, class Convert>
+    static void setComponents(Program& p, At at, bool checked, V const& v, Convert convert, std::index_sequence<I...>)
+    {
+        checked ? p.setUniform(at, convert(v[I])...) : p.setUniform_Unsafe(at, convert(v[I])...);
+    }
+
+    // prefix1 to prefix4 in the four flavours, each with the first N components
+    // of values[flavour].
+    template <class T, class Convert, std::size_t... N>
+    void expectVectors(std::string const& prefix, std::vector<std::vector<T>> const& values, Convert convert,
+                       std::index_sequence<N...>)
+    {
+        auto firstOf = [&](std::size_t n) {
+            std::vector<std::vector<T>> cut;
+            for (auto const& v : values)
+                cut.emplace_back(v.begin(), v.begin() + n);
+            return cut;
+        };
+        (expectFlavours<T>((prefix + std::to_string(N + 1)).c_str(), 1, firstOf(N + 1),
+                           [&](auto at, bool checked, std::vector<T> v) {
+                               setComponents(*program_, at, checked, v, convert, std::make_index_sequence<N + 1>());
+                           }),
+         ...);
+    }
+
     std::unique_ptr<Program> program_;
 };
 
 } // namespace
 
-TEST_F(UniformGLTest, BoolSettersUploadZeroOrOne)
+// Bools upload 0 or 1; unsigned chars zero-extend (values above 127 would show
+// a sign extension, none above 1 normalising).
+TEST_F(UniformGLTest, ScalarAndVectorSetters)
 {
-    Program& p = *program_;
-    auto b = [](GLint v) { return v != 0; };
-    expectFlavours<GLint>("b1", 1, {{1}, {0}, {1}, {0}}, [&](auto at, bool checked, Ints v) {
-        checked ? p.setUniform(at, b(v[0])) : p.setUniform_Unsafe(at, b(v[0]));
-    });
-    expectFlavours<GLint>("b2", 1, {{1, 0}, {0, 1}, {1, 1}, {0, 0}}, [&](auto at, bool checked, Ints v) {
-        checked ? p.setUniform(at, b(v[0]), b(v[1])) : p.setUniform_Unsafe(at, b(v[0]), b(v[1]));
-    });
-    expectFlavours<GLint>("b3", 1, {{1, 0, 1}, {0, 1, 0}, {1, 1, 0}, {0, 0, 1}}, [&](auto at, bool checked, Ints v) {
-        checked ? p.setUniform(at, b(v[0]), b(v[1]), b(v[2])) : p.setUniform_Unsafe(at, b(v[0]), b(v[1]), b(v[2]));
-    });
-    expectFlavours<GLint>("b4", 1, {{1, 0, 1, 0}, {0, 1, 0, 1}, {1, 1, 0, 0}, {0, 0, 1, 1}},
-                          [&](auto at, bool checked, Ints v) {
-                              checked ? p.setUniform(at, b(v[0]), b(v[1]), b(v[2]), b(v[3]))
-                                      : p.setUniform_Unsafe(at, b(v[0]), b(v[1]), b(v[2]), b(v[3]));
-                          });
-}
-
-// Values above 127 show a sign extension; none above 1 would show normalising.
-TEST_F(UniformGLTest, UnsignedCharSettersZeroExtend)
-{
-    Program& p = *program_;
-    auto u = [](GLint v) { return static_cast<unsigned char>(v); };
-    expectFlavours<GLint>("c1", 1, {{200}, {255}, {128}, {7}}, [&](auto at, bool checked, Ints v) {
-        checked ? p.setUniform(at, u(v[0])) : p.setUniform_Unsafe(at, u(v[0]));
-    });
-    expectFlavours<GLint>("c2", 1, {{200, 1}, {255, 2}, {128, 3}, {7, 4}}, [&](auto at, bool checked, Ints v) {
-        checked ? p.setUniform(at, u(v[0]), u(v[1])) : p.setUniform_Unsafe(at, u(v[0]), u(v[1]));
-    });
-    expectFlavours<GLint>("c3", 1, {{200, 1, 250}, {255, 2, 129}, {128, 3, 0}, {7, 4, 190}},
-                          [&](auto at, bool checked, Ints v) {
-                              checked ? p.setUniform(at, u(v[0]), u(v[1]), u(v[2]))
-                                      : p.setUniform_Unsafe(at, u(v[0]), u(v[1]), u(v[2]));
-                          });
-    expectFlavours<GLint>("c4", 1, {{200, 1, 250, 9}, {255, 2, 129, 8}, {128, 3, 0, 254}, {7, 4, 190, 6}},
-                          [&](auto at, bool checked, Ints v) {
-                              checked ? p.setUniform(at, u(v[0]), u(v[1]), u(v[2]), u(v[3]))
-                                      : p.setUniform_Unsafe(at, u(v[0]), u(v[1]), u(v[2]), u(v[3]));
-                          });
-}
-
-TEST_F(UniformGLTest, IntAndFloatSetters)
-{
-    Program& p = *program_;
-    expectFlavours<GLint>("i1", 1, {{-5}, {6}, {-7}, {8}}, [&](auto at, bool checked, Ints v) {
-        checked ? p.setUniform(at, v[0]) : p.setUniform_Unsafe(at, v[0]);
-    });
-    expectFlavours<GLint>("i2", 1, {{-5, 1}, {6, 2}, {-7, 3}, {8, 4}}, [&](auto at, bool checked, Ints v) {
-        checked ? p.setUniform(at, v[0], v[1]) : p.setUniform_Unsafe(at, v[0], v[1]);
-    });
-    expectFlavours<GLint>("i3", 1, {{-5, 1, 9}, {6, 2, 10}, {-7, 3, 11}, {8, 4, 12}}, [&](auto at, bool checked, Ints v) {
-        checked ? p.setUniform(at, v[0], v[1], v[2]) : p.setUniform_Unsafe(at, v[0], v[1], v[2]);
-    });
-    expectFlavours<GLint>("i4", 1, {{-5, 1, 9, 13}, {6, 2, 10, 14}, {-7, 3, 11, 15}, {8, 4, 12, 16}},
-                          [&](auto at, bool checked, Ints v) {
-                              checked ? p.setUniform(at, v[0], v[1], v[2], v[3])
-                                      : p.setUniform_Unsafe(at, v[0], v[1], v[2], v[3]);
-                          });
-    expectFlavours<GLfloat>("f1", 1, {{0.5f}, {1.5f}, {-2.5f}, {3.5f}}, [&](auto at, bool checked, Floats v) {
-        checked ? p.setUniform(at, v[0]) : p.setUniform_Unsafe(at, v[0]);
-    });
-    expectFlavours<GLfloat>("f2", 1, {{0.5f, 1}, {1.5f, 2}, {-2.5f, 3}, {3.5f, 4}}, [&](auto at, bool checked, Floats v) {
-        checked ? p.setUniform(at, v[0], v[1]) : p.setUniform_Unsafe(at, v[0], v[1]);
-    });
-    expectFlavours<GLfloat>("f3", 1, {{0.5f, 1, 5}, {1.5f, 2, 6}, {-2.5f, 3, 7}, {3.5f, 4, 8}},
-                            [&](auto at, bool checked, Floats v) {
-                                checked ? p.setUniform(at, v[0], v[1], v[2]) : p.setUniform_Unsafe(at, v[0], v[1], v[2]);
-                            });
-    expectFlavours<GLfloat>("f4", 1, {{0.5f, 1, 5, 9}, {1.5f, 2, 6, 10}, {-2.5f, 3, 7, 11}, {3.5f, 4, 8, 12}},
-                            [&](auto at, bool checked, Floats v) {
-                                checked ? p.setUniform(at, v[0], v[1], v[2], v[3])
-                                        : p.setUniform_Unsafe(at, v[0], v[1], v[2], v[3]);
-                            });
+    const auto four = std::make_index_sequence<4>();
+    expectVectors<GLint>("b", {{1, 0, 1, 0}, {0, 1, 0, 1}, {1, 1, 0, 0}, {0, 0, 1, 1}},
+                         [](GLint v) { return v != 0; }, four);
+    expectVectors<GLint>("c", {{200, 1, 250, 9}, {255, 2, 129, 8}, {128, 3, 0, 254}, {7, 4, 190, 6}},
+                         [](GLint v) { return static_cast<unsigned char>(v); }, four);
+    expectVectors<GLint>("i", {{-5, 1, 9, 13}, {6, 2, 10, 14}, {-7, 3, 11, 15}, {8, 4, 12, 16}},
+                         [](GLint v) { return v; }, four);
+    expectVectors<GLfloat>("f", {{0.5f, 1, 5, 9}, {1.5f, 2, 6, 10}, {-2.5f, 3, 7, 11}, {3.5f, 4, 8, 12}},
+                           [](GLfloat v) { return v; }, four);
 }
 
 // All samplers start on unit 0, where samplers of different kinds may not
@@ -361,24 +325,26 @@ TEST_F(UniformGLTest, CheckedSettersRefuseAProgramThatIsNotCurrent)
     p.disable();
     int n[8] = {};
     float f[16] = {};
-    const unsigned char c = 1;
-    const std::vector<std::function<void()>> checked = {
-        [&] { p.setUniform(0, true); }, [&] { p.setUniform("b1", true); },
-        [&] { p.setUniform(0, true, true); }, [&] { p.setUniform("b2", true, true); },
-        [&] { p.setUniform(0, true, true, true); }, [&] { p.setUniform("b3", true, true, true); },
-        [&] { p.setUniform(0, true, true, true, true); }, [&] { p.setUniform("b4", true, true, true, true); },
-        [&] { p.setUniform(0, c); }, [&] { p.setUniform("c1", c); },
-        [&] { p.setUniform(0, c, c); }, [&] { p.setUniform("c2", c, c); },
-        [&] { p.setUniform(0, c, c, c); }, [&] { p.setUniform("c3", c, c, c); },
-        [&] { p.setUniform(0, c, c, c, c); }, [&] { p.setUniform("c4", c, c, c, c); },
-        [&] { p.setUniform(0, 1); }, [&] { p.setUniform("i1", 1); },
-        [&] { p.setUniform(0, 1, 1); }, [&] { p.setUniform("i2", 1, 1); },
-        [&] { p.setUniform(0, 1, 1, 1); }, [&] { p.setUniform("i3", 1, 1, 1); },
-        [&] { p.setUniform(0, 1, 1, 1, 1); }, [&] { p.setUniform("i4", 1, 1, 1, 1); },
-        [&] { p.setUniform(0, 1.0f); }, [&] { p.setUniform("f1", 1.0f); },
-        [&] { p.setUniform(0, 1.0f, 1.0f); }, [&] { p.setUniform("f2", 1.0f, 1.0f); },
-        [&] { p.setUniform(0, 1.0f, 1.0f, 1.0f); }, [&] { p.setUniform("f3", 1.0f, 1.0f, 1.0f); },
-        [&] { p.setUniform(0, 1.0f, 1.0f, 1.0f, 1.0f); }, [&] { p.setUniform("f4", 1.0f, 1.0f, 1.0f, 1.0f); },
+    std::vector<std::function<void()>> checked;
+    auto addVectors = [&](std::string const& prefix, auto value) {
+        const std::vector<decltype(value)> v(4, value);
+        auto add = [&](auto n) {
+            const std::string name = prefix + std::to_string(n.value);
+            checked.push_back([&p, v] { setComponents(p, 0, true, v, [](auto x) { return x; },
+                                                      std::make_index_sequence<decltype(n)::value>()); });
+            checked.push_back([&p, v, name] { setComponents(p, name.c_str(), true, v, [](auto x) { return x; },
+                                                            std::make_index_sequence<decltype(n)::value>()); });
+        };
+        add(std::integral_constant<std::size_t, 1>());
+        add(std::integral_constant<std::size_t, 2>());
+        add(std::integral_constant<std::size_t, 3>());
+        add(std::integral_constant<std::size_t, 4>());
+    };
+    addVectors("b", true);
+    addVectors("c", static_cast<unsigned char>(1));
+    addVectors("i", 1);
+    addVectors("f", 1.0f);
+    checked.insert(checked.end(), {
         [&] { p.setUniformSampler1D(0, 1); }, [&] { p.setUniformSampler1D("s1", 1); },
         [&] { p.setUniformSampler2D(0, 1); }, [&] { p.setUniformSampler2D("s2", 1); },
         [&] { p.setUniformSampler3D(0, 1); }, [&] { p.setUniformSampler3D("s3", 1); },
@@ -389,7 +355,8 @@ TEST_F(UniformGLTest, CheckedSettersRefuseAProgramThatIsNotCurrent)
         [&] { p.setUniform3(0, 1, n); }, [&] { p.setUniform4(0, 1, n); },
         [&] { p.setUniform(0, 1, f); }, [&] { p.setUniform2(0, 1, f); },
         [&] { p.setUniform3(0, 1, f); }, [&] { p.setUniform4(0, 1, f); },
-    };
+    });
+    ASSERT_EQ(51u, checked.size());
     std::set<int> lines;
     for (std::size_t i = 0; i < checked.size(); ++i)
     {

@@ -1,62 +1,22 @@
 #ifndef ORU_TESTS_GLSLGLTEST_H
 #define ORU_TESTS_GLSLGLTEST_H
 
-// Shared by the shader and program tests: what an InternalException said, a
-// guard that puts a fake behind an entry-point pointer for one scope, and a
-// fixture for the tests that need OpenGL 2.0 marked by the extension manager.
+// Shared by the shader and program tests: a guard that puts a fake behind an
+// entry-point pointer for one scope, and a fixture for the tests that need
+// OpenGL 2.0 marked by the extension manager.
 
 #include "support/LayerGLTest.h"
+#include "support/Raises.h"
 
 #include "oru_ogl/ogl/Shader.h"
 
-#include "oru_core/Exceptions.h"
-
 #include <GL/gl.h>
 
-#include <ostream>
 #include <sstream>
 #include <string>
 
 namespace OruTest
 {
-
-/// File, line and message of the InternalException an action raised, if any.
-struct Raised
-{
-    bool raised = false;
-    std::string file;
-    int line = 0;
-    std::string message;
-
-    static Raised at(std::string file, int line, std::string message)
-    {
-        return Raised{true, std::move(file), line, std::move(message)};
-    }
-    bool operator==(Raised const& other) const
-    {
-        return raised == other.raised && file == other.file && line == other.line && message == other.message;
-    }
-    friend std::ostream& operator<<(std::ostream& out, Raised const& r)
-    {
-        if (!r.raised)
-            return out << "nothing raised";
-        return out << r.file << "(" << r.line << "): \"" << r.message << "\"";
-    }
-};
-
-template <class Action>
-Raised raisedBy(Action&& action)
-{
-    try
-    {
-        action();
-    }
-    catch (Oru::InternalException const& e)
-    {
-        return Raised::at(e.file(), e.line(), e.message());
-    }
-    return Raised();
-}
 
 /// Puts a fake behind an entry-point pointer until the end of the scope.
 template <class Pointer>

@@ -1,37 +1,72 @@
 #ifndef ORU_TESTS_RAISES_H
 #define ORU_TESTS_RAISES_H
 
+#include "oru_ogl/ExceptionOGL.h"
+
 #include "oru_core/Exceptions.h"
 
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
+#include <type_traits>
 
 namespace OruTest
 {
 
-/// Whether f raises an InternalException from file (short path, as the
-/// library reports it) with exactly the message, at line unless line is 0.
-/// Anything else, including no exception at all, fails with what happened.
-template <class F>
-::testing::AssertionResult raises(F f, char const* file, int line, std::string const& message)
+/// What an action raised: file, line, message and, for a GL error, its number.
+struct Raised
+{
+    bool raised = false;
+    std::string file;
+    int line = 0;
+    std::string message;
+    unsigned int error = 0;
+
+    static Raised at(std::string file, int line, std::string message, unsigned int error = 0)
+    {
+        return Raised{true, std::move(file), line, std::move(message), error};
+    }
+    bool operator==(Raised const& o) const
+    {
+        return raised == o.raised && file == o.file && line == o.line && message == o.message && error == o.error;
+    }
+    friend std::ostream& operator<<(std::ostream& out, Raised const& r)
+    {
+        if (!r.raised)
+            return out << "nothing raised";
+        return out << r.file << "(" << r.line << "): \"" << r.message << "\" error " << r.error;
+    }
+};
+
+/// Runs action and reports the exception of type E it raised, if any; other
+/// exceptions pass through and fail the test.
+template <class E = Oru::InternalException, class Action>
+Raised raisedBy(Action&& action)
 {
     try
     {
-        f();
+        action();
     }
-    catch (Oru::InternalException const& e)
+    catch (E const& e)
     {
-        if (std::string(e.file()) != file || (line != 0 && e.line() != line) || message != e.message())
-            return ::testing::AssertionFailure() << "raised " << e.what() << "; expected " << file << "(" << line
-                                                 << "): " << message;
+        Raised r = Raised::at(e.file(), e.line(), e.message());
+        if constexpr (std::is_base_of<Oru::OGL::ExceptionOGL, E>::value)
+            r.error = e.errorNumber();
+        return r;
+    }
+    return Raised();
+}
+
+/// Whether f raises an InternalException from file with exactly the message,
+/// at line unless line is 0.
+template <class F>
+::testing::AssertionResult raises(F f, char const* file, int line, std::string const& message)
+{
+    const Raised r = raisedBy(f);
+    if (r.raised && r.file == file && (line == 0 || r.line == line) && r.message == message)
         return ::testing::AssertionSuccess();
-    }
-    catch (std::exception const& e)
-    {
-        return ::testing::AssertionFailure() << "raised another exception: " << e.what();
-    }
-    return ::testing::AssertionFailure() << "raised nothing; expected " << file << "(" << line << "): " << message;
+    return ::testing::AssertionFailure() << r << "; expected " << file << "(" << line << "): " << message;
 }
 
 } // namespace OruTest
