@@ -81,8 +81,10 @@ TEST_F(StartupGLTest, StartMakesTheContextCurrentAndReadsItsVersion)
     EXPECT_NE(std::string::npos, version.find(manager->additionalVersionInfo()));
     EXPECT_EQ(ExtensionManager::VENDOR_OTHER, manager->vendor()); // "Mesa/X.org"
     if (!manager->hasReleaseVersion())
+    {
         EXPECT_EQ(Raised::at("extensionator/ExtensionManager.cpp", 183, "nReleaseVersion_ != -1"),
                   raisedBy([&] { manager->releaseVersion(); }));
+    }
 }
 
 TEST_F(StartupGLTest, CoreVersionsAreMarkedOnlyForMajorVersionsOneAndTwo)
