@@ -9,6 +9,9 @@ set(CMAKE_CXX_COMPILER ${ORU_MINGW_TRIPLET}-g++-posix)
 set(CMAKE_RC_COMPILER  ${ORU_MINGW_TRIPLET}-windres)
 
 set(CMAKE_FIND_ROOT_PATH /usr/${ORU_MINGW_TRIPLET})
+# Prefixes named in CMAKE_PREFIX_PATH (an installed oru_ogl, say) hold Windows
+# packages too: as roots, they are searched as they are, not under the MinGW root.
+list(APPEND CMAKE_FIND_ROOT_PATH ${CMAKE_PREFIX_PATH})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)

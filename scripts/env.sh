@@ -23,13 +23,17 @@ oru_install() {
     fi
 }
 
-oru_build() {
+oru_configure() {
     if [ ! -f "$ORU_BUILD/CMakeCache.txt" ]; then
         oru_log "configuring $ORU_BUILD"
         cmake -S "$ORU_ROOT" -B "$ORU_BUILD" -G Ninja \
             -DCMAKE_TOOLCHAIN_FILE="$ORU_ROOT/cmake/mingw-w64-x86_64-posix.cmake" \
             -DCMAKE_BUILD_TYPE=Release >/dev/null
     fi
+}
+
+oru_build() {
+    oru_configure
     oru_log "building"
     cmake --build "$ORU_BUILD" -- -k 0 | grep -vE '^\[[0-9]+/[0-9]+\]' || true
     cmake --build "$ORU_BUILD" >/dev/null

@@ -1,6 +1,7 @@
 #include "DriverReport.h"
 
 #include "oru_ogl/InternalWindow.h"
+#include "oru_ogl/Version.h"
 #include "oru_ogl/extensionator/ExtensionCatalogue.h"
 #include "oru_ogl/extensionator/ExtensionManager.h"
 #include "oru_ogl/extensionator/windows/WglEntryPoints.h"
@@ -85,6 +86,7 @@ DriverReport gatherDriverReport()
 {
     ExtensionManager* manager = ExtensionManager::Instance();
     DriverReport report = {};
+    report.layerVersion = ORU_OGL_VERSION_STRING;
     report.vendor = glText(GL_VENDOR);
     report.renderer = glText(GL_RENDERER);
     report.version = glText(GL_VERSION);
@@ -190,6 +192,7 @@ unsigned int countIf(DriverReport const& report, bool wgl, bool (*predicate)(Dri
 
 void printHeader(DriverReport const& report)
 {
+    std::printf("oru_ogl        %s\n", report.layerVersion.c_str());
     std::printf("GL_VENDOR      %s\n", report.vendor.c_str());
     std::printf("GL_RENDERER    %s\n", report.renderer.c_str());
     std::printf("GL_VERSION     %s\n", report.version.c_str());
@@ -304,7 +307,8 @@ char const* json(bool value)
 
 void printJson(DriverReport const& report)
 {
-    std::printf("{\n  \"vendor\": %s,\n  \"renderer\": %s,\n  \"version\": %s,\n", json(report.vendor).c_str(),
+    std::printf("{\n  \"oruOglVersion\": %s,\n", json(report.layerVersion).c_str());
+    std::printf("  \"vendor\": %s,\n  \"renderer\": %s,\n  \"version\": %s,\n", json(report.vendor).c_str(),
                 json(report.renderer).c_str(), json(report.version).c_str());
     std::printf("  \"parsedVersion\": {\"major\": %u, \"minor\": %u, \"release\": ", report.major, report.minor);
     if (report.hasRelease)

@@ -29,6 +29,7 @@ struct DriverReport
         int samples;
     };
 
+    std::string layerVersion;  // oru_ogl's own, "0.1.0"
     std::string vendor, renderer, version;
     unsigned int major, minor;
     bool hasRelease;

@@ -2,6 +2,7 @@
 #include "DriverReport.h"
 
 #include "oru_ogl/LibraryOGL.h"
+#include "oru_ogl/Version.h"
 #include "oru_ogl/ogl/ContextOffscreen.h"
 
 #include "oru_core/Exceptions.h"
@@ -14,18 +15,19 @@ namespace
 {
 
 const char kUsage[] =
-    "usage: oglinfo [--full | --json | --help]\n"
+    "usage: oglinfo [--full | --json | --version | --help]\n"
     "\n"
     "Creates an offscreen OpenGL context, starts the oru_ogl layer for it and reports\n"
     "the driver: vendor, renderer and version (and how the layer parsed it), which of\n"
     "the layer's core versions and extensions are advertised and loaded, the answers\n"
     "of its capability questions, texture units and the main limits.\n"
     "\n"
-    "  (none)   a short summary\n"
-    "  --full   every core version and extension of the catalogue, and the pixel\n"
-    "           formats the layer chooses for a few buffer formats\n"
-    "  --json   everything, as one JSON object\n"
-    "  --help   this text\n"
+    "  (none)     a short summary\n"
+    "  --full     every core version and extension of the catalogue, and the pixel\n"
+    "             formats the layer chooses for a few buffer formats\n"
+    "  --json     everything, as one JSON object\n"
+    "  --version  the version of oru_ogl, without creating a context\n"
+    "  --help     this text\n"
     "\n"
     "Exit status: 0 on success, 1 when no context could be made or the layer could\n"
     "not start, 2 for a bad argument.\n";
@@ -40,6 +42,11 @@ int main(int argc, char** argv)
         if (!std::strcmp(argv[i], "--help") || !std::strcmp(argv[i], "-h"))
         {
             std::fputs(kUsage, stdout);
+            return 0;
+        }
+        if (!std::strcmp(argv[i], "--version"))
+        {
+            std::printf("oglinfo (oru_ogl %s)\n", ORU_OGL_VERSION_STRING);
             return 0;
         }
         if (!std::strcmp(argv[i], "--full"))

@@ -31,7 +31,9 @@ public:
 
 protected:
     ExceptionBase() = default;
+    /// Copies the exception.
     ExceptionBase(ExceptionBase const&) = default;
+    /// Assigns another exception.
     ExceptionBase& operator=(ExceptionBase const&) = default;
 };
 
@@ -39,11 +41,16 @@ protected:
 class ORU_CORE_API SourceReport
 {
 public:
+    /// Keeps the file, line and message and composes "file(line): message".
     SourceReport(char const* file, int line, char const* message);
 
+    /// Source file.
     char const* file() const { return file_.c_str(); }
+    /// Source line.
     int line() const { return line_; }
+    /// The message alone.
     char const* message() const { return message_.c_str(); }
+    /// "file(line): message".
     char const* text() const { return text_.c_str(); }
 
 private:
@@ -57,11 +64,15 @@ private:
 class ORU_CORE_API LogicalException : public ExceptionBase
 {
 public:
+    /// An exception raised in file at line with message.
     LogicalException(char const* file, int line, char const* message);
+    /// Copies the exception.
     LogicalException(LogicalException const&);
+    /// Assigns another exception.
     LogicalException& operator=(LogicalException const&);
     virtual ~LogicalException();
 
+    /// "file(line): message".
     char const* what() const noexcept override;
     char const* file() const override;
     int line() const override;
@@ -75,8 +86,11 @@ private:
 class ORU_CORE_API InternalException : public LogicalException
 {
 public:
+    /// An exception raised in file at line with message.
     InternalException(char const* file, int line, char const* message);
+    /// Copies the exception.
     InternalException(InternalException const&);
+    /// Assigns another exception.
     InternalException& operator=(InternalException const&);
     virtual ~InternalException();
 };
@@ -85,8 +99,11 @@ public:
 class ORU_CORE_API ParameterException : public LogicalException
 {
 public:
+    /// An exception raised in file at line with message.
     ParameterException(char const* file, int line, char const* message);
+    /// Copies the exception.
     ParameterException(ParameterException const&);
+    /// Assigns another exception.
     ParameterException& operator=(ParameterException const&);
     virtual ~ParameterException();
 };
@@ -95,11 +112,15 @@ public:
 class ORU_CORE_API ResourceException : public ExceptionBase
 {
 public:
+    /// An exception raised in file at line with message.
     ResourceException(char const* file, int line, char const* message);
+    /// Copies the exception.
     ResourceException(ResourceException const&);
+    /// Assigns another exception.
     ResourceException& operator=(ResourceException const&);
     virtual ~ResourceException();
 
+    /// "file(line): message".
     char const* what() const noexcept override;
     char const* file() const override;
     int line() const override;
@@ -113,13 +134,18 @@ private:
 class ORU_CORE_API CPURuntimeException : public ExceptionBase
 {
 public:
+    /// An exception raised in file at line with message and the platform's error code (GetLastError()).
     CPURuntimeException(char const* file, int line, char const* message, unsigned int errorCode);
+    /// Copies the exception.
     CPURuntimeException(CPURuntimeException const&);
+    /// Assigns another exception.
     CPURuntimeException& operator=(CPURuntimeException const&);
     virtual ~CPURuntimeException();
 
+    /// The platform's error code.
     unsigned int errorCode() const;
 
+    /// "file(line): message".
     char const* what() const noexcept override;
     char const* file() const override;
     int line() const override;

@@ -14,8 +14,11 @@ namespace OGL
 class ORU_OGL_API ExceptionOGL : public LogicalException
 {
 public:
+    /// The caller's file and line, the text of the GL error and its number.
     ExceptionOGL(char const* file, unsigned int line, char const* message, unsigned int errorNumber);
+    /// Copies the exception.
     ExceptionOGL(ExceptionOGL const& other);
+    /// Assigns another exception.
     ExceptionOGL& operator=(ExceptionOGL const& other);
     virtual ~ExceptionOGL();
 

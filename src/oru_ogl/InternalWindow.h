@@ -23,6 +23,7 @@ public:
     InternalWindow(InternalWindow const&) = delete;
     InternalWindow& operator=(InternalWindow const&) = delete;
 
+    /// The window.
     HWND handle() const { return hWnd_; }
 
 private:

@@ -23,8 +23,10 @@ public:
     /// Destroys the extension manager, then the texture-unit table. Refuses a
     /// shutdown without start-up.
     static void terminateExtensionator();
+    /// Whether the layer is started.
     static bool isExtensionatorInitialized();
 
+    /// Library has no state of its own to assign.
     Library& operator=(Library const&);
 
 private:
@@ -35,6 +37,7 @@ private:
 class ORU_OGL_API AutoInitializer
 {
 public:
+    /// Starts the layer for the context with default options; refuses a null context and a second start.
     explicit AutoInitializer(Context* pContext);
     ~AutoInitializer() noexcept(false);
     AutoInitializer(AutoInitializer const&) = delete;

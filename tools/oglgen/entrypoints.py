@@ -24,13 +24,14 @@ def pointer_typedef(function):
 
 def extensions_header(c):
     out = [banner(cat.SOURCE), "#ifndef %s\n#define %s\n\n" % (GUARD % "EXTENSIONS", GUARD % "EXTENSIONS"),
+           "/// \\file\n/// teExtension: the ids of the core versions and extensions the layer knows.\n\n",
            "namespace Oru\n{\nnamespace OGL\n{\n\n",
            "/// Ids of the core versions (0 to 5), GL extensions (6 to 300) and WGL\n",
            "/// extensions (301 to 334) that the layer knows. The enumerator is the name\n",
            "/// string in capitals; the core versions are OPEN_GL_1_2 to OPEN_GL_2_1.\n",
            "enum teExtension\n{\n"]
     for e in c.extensions:
-        out.append("    %s = %d, // %s\n" % (e.enumerator, e.id, e.name))
+        out.append("    %s = %d, ///< %s\n" % (e.enumerator, e.id, e.name))
     out.append("    /// Returned by the name look-ups for a name they do not know.\n")
     out.append("    UNKNOWN_EXTENSION = %d\n};\n\n" % cat.UNKNOWN_EXTENSION)
     out.append("} // namespace OGL\n} // namespace Oru\n\n#endif\n")
@@ -40,13 +41,15 @@ def extensions_header(c):
 def _pointer_header(functions, guard, title, c_linkage):
     out = [banner(cat.SOURCE), "#ifndef %s\n#define %s\n\n" % (guard, guard),
            '#include "oru_ogl/OglExport.h"\n#include "oru_ogl/extensionator/GLTypes.h"\n\n',
-           "// %s\n" % title,
-           "// Filled by the loaders at start-up; null until then and wherever the driver\n",
-           "// lacks the entry point. Writable, so that a test can put a fake in place.\n\n"]
+           "/// \\file\n/// %s\n" % title,
+           "/// Filled by the loaders at start-up; null until then and wherever the driver\n",
+           "/// lacks the entry point. Writable, so that a test can put a fake in place.\n\n"]
     if c_linkage:
         out.append('extern "C"\n{\n\n')
     for f in functions:
+        out.append("/// The type of %s, the pointer to %s.\n" % (f.pointer, f.name))
         out.append(pointer_typedef(f) + "\n")
+        out.append("/// %s of %s; null until its loader has run.\n" % (f.name, f.owner.name))
         out.append("ORU_OGL_API extern PFN%s %s;\n" % (f.pointer, f.pointer))
     if c_linkage:
         out.append('\n} // extern "C"\n')

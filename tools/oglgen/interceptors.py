@@ -67,7 +67,9 @@ def operations_inc(c):
            "// The %d operations of the GL interception chain, in their fixed order; no\n" % len(ops),
            "// include guard. Each class of the chain includes this inside its body with\n",
            "// ORU_GL_OPERATION_TAIL defined as \"= 0\" or \"override\".\n"]
-    out += ["virtual %s ORU_GL_OPERATION_TAIL;\n" % signature(f) for f in ops]
+    for f in ops:
+        out.append("/// %s through the interception chain, called from file and line.\n" % f.name)
+        out.append("virtual %s ORU_GL_OPERATION_TAIL;\n" % signature(f))
     return "".join(out)
 
 
@@ -104,17 +106,20 @@ def error_checker_chunk(ops):
 def call_site_header(c):
     guard = "ORU_OGL_EXTENSIONATOR_GLCALL_H"
     out = [banner(cat.SOURCE), "#ifndef %s\n#define %s\n\n" % (guard, guard),
+           "/// \\file\n/// ORU_GL: GL calls written as such and checked through the interception chain.\n\n",
            '#include "oru_ogl/extensionator/OpenGLInterceptor.h"\n\n',
            "namespace Oru\n{\nnamespace OGL\n{\n\n",
            "/// One GL call made through the current interceptor, carrying the caller's\n",
            "/// file and line. Written through ORU_GL, so that a checked call reads like\n",
            "/// the call it replaces:  ORU_GL glTexParameteri(GL_TEXTURE_2D, pname, value);\n",
            "class CallSite\n{\npublic:\n",
+           "    /// The call site: the caller's file and line.\n",
            "    CallSite(char const* file, unsigned int line) : file_(file), line_(line) {}\n\n"]
     for f in c.operations():
         ret = f.ret if f.ret.endswith("*") else f.ret + " "
         args = "file_, line_" + (", " + f.argument_list() if f.params else "")
         body = "%sOpenGLInterceptor::Instance()->%s(%s);" % ("return " if f.returns_value else "", f.operation, args)
+        out.append("    /// %s through the interception chain, from this call site.\n" % f.name)
         out.append("    %s%s(%s) const { %s }\n" % (ret, f.name, f.parameter_list(), body))
     out.append("\nprivate:\n    char const* file_;\n    unsigned int line_;\n};\n\n")
     out.append("} // namespace OGL\n} // namespace Oru\n\n")

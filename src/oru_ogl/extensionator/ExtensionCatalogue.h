@@ -46,6 +46,7 @@ public:
     /// by a test that plays a driver without some function. Returns the
     /// previous resolver; pass it back to restore.
     typedef PROC(WINAPI* ProcAddressResolver)(LPCSTR name);
+    /// Replaces the resolver; returns the previous one.
     static ProcAddressResolver setProcAddressResolver(ProcAddressResolver resolver);
     /// Resolves one entry point the way the loaders do.
     static PROC resolve(char const* name);

@@ -28,6 +28,7 @@ class Context;
 class ORU_OGL_API ExtensionManager
 {
 public:
+    /// Vendor families the layer tells apart, from GL_VENDOR.
     enum teVendor
     {
         VENDOR_OTHER = 0,
@@ -41,15 +42,22 @@ public:
     public:
         InitOptions();
         ~InitOptions();
+        /// Copies the options.
         InitOptions(InitOptions const& other);
+        /// Assigns other options.
         InitOptions& operator=(InitOptions const& other);
 
+        /// Whether a null context should throw (kept for the caller).
         void setThrowOnNullContext(bool value);
+        /// The throw-on-null-context option.
         bool throwOnNullContext() const;
         /// Flush on make-current, meant for Mac OS only.
         void setFlushOnMakeCurrentMacOnly(bool value);
+        /// The flush-on-make-current option.
         bool flushOnMakeCurrentMacOnly() const;
+        /// Path name for a recorder (kept for the caller); copied.
         void setRekorderPathname(std::string& pathname);
+        /// The recorder path name.
         std::string const& rekorderPathname() const;
 
     private:
@@ -61,14 +69,19 @@ public:
     /// The instance; throws InternalException while the layer is not started.
     static ExtensionManager* Instance();
 
+    /// Major number of GL_VERSION.
     unsigned int majorVersion() const;
+    /// Minor number of GL_VERSION.
     unsigned int minorVersion() const;
+    /// Whether GL_VERSION has a release number.
     bool hasReleaseVersion() const;
     /// Throws InternalException when the version string had no release number.
     unsigned int releaseVersion() const;
     /// The text after the version numbers ("Build 7", "(Compatibility Profile) Mesa 22.3.6").
     std::string additionalVersionInfo();
+    /// The vendor family.
     teVendor vendor();
+    /// The options given at start-up.
     InitOptions const& initOptions() const;
 
     /// Whether the id's entry points loaded at start-up (core versions included).
@@ -77,15 +90,25 @@ public:
     /// result without changing what isSupported() answers.
     bool initialize(teExtension ext) const;
 
+    /// OpenGL 1.2 or later: GL_CLAMP_TO_EDGE.
     bool supportsClampToEdge() const;
+    /// OpenGL 1.3 or GL_ARB_multitexture (a 2.x version alone does not count).
     bool supportsMultiTexture() const;
+    /// A 2.x version or GL_ARB_draw_buffers.
     bool supportsDrawBuffers() const;
+    /// OpenGL 1.2 or later, or GL_EXT_texture3D.
     bool supportsTexture3D() const;
+    /// GL_ARB_texture_float, GL_ATI_texture_float or GL_APPLE_float_pixels.
     bool supportsFloatingPointTextures() const;
+    /// GL_ARB_texture_non_power_of_two, or OpenGL 2.0 except on NVIDIA.
     bool supportsNonPowerOfTwoTextures() const;
+    /// WGL_ARB_render_texture.
     bool supportsRenderToTexture() const;
+    /// WGL_NV_render_texture_rectangle.
     bool supportsRenderToTextureRectangle() const;
+    /// WGL_ARB_pixel_format and WGL_ARB_pbuffer.
     bool supportsPixelBuffers() const;
+    /// Texture image units with GL_ARB_fragment_program, else texture units (1 without multitexturing).
     unsigned int numberOfTextureUnits() const;
 
 private:

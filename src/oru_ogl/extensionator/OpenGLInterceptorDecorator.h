@@ -14,14 +14,19 @@ class ORU_OGL_API OpenGLInterceptorDecorator : public OpenGLInterceptor
 {
 public:
     OpenGLInterceptorDecorator();
+    /// A decorator forwarding to next.
     explicit OpenGLInterceptorDecorator(OpenGLInterceptor* next);
     virtual ~OpenGLInterceptorDecorator();
 
+    /// Forwards to next from now on.
     void setInterceptor(OpenGLInterceptor* next);
+    /// The next interceptor.
     OpenGLInterceptor* interceptor() { return pInterceptor_; }
+    /// The next interceptor.
     OpenGLInterceptor const* interceptor() const { return pInterceptor_; }
 
 protected:
+    /// The next interceptor, not owned.
     OpenGLInterceptor* pInterceptor_;
 };
 

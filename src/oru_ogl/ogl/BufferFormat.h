@@ -32,20 +32,30 @@ public:
         eRGBA32F, eRGBA32F_D24, eRGBA32F_S8D24
     };
 
+    /// Bit depths and whether colour is floating point, kept as given.
     BufferFormat(unsigned int red, unsigned int green, unsigned int blue, unsigned int alpha,
                  unsigned int stencil, unsigned int depth, bool floatingPointColor);
     /// Throws InternalException for a value outside 0 to 23.
     BufferFormat(tePredefined format);
 
+    /// Copies the format.
     BufferFormat(BufferFormat const& other) = default;
+    /// Assigns another format.
     BufferFormat& operator=(BufferFormat const& other);
 
+    /// Red bits.
     unsigned int redBits() const { return red_; }
+    /// Green bits.
     unsigned int greenBits() const { return green_; }
+    /// Blue bits.
     unsigned int blueBits() const { return blue_; }
+    /// Alpha bits.
     unsigned int alphaBits() const { return alpha_; }
+    /// Stencil bits.
     unsigned int stencilBits() const { return stencil_; }
+    /// Depth bits.
     unsigned int depthBits() const { return depth_; }
+    /// Whether colour is floating point.
     bool floatingPointColor() const { return floatingPointColor_; }
 
     /// The request for GDI's ChoosePixelFormat. The colour bits are summed in

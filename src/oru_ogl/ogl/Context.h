@@ -60,7 +60,9 @@ public:
     /// Sets the swap interval (1 or 0) of the context current now.
     void enableSyncToVerticalRetrace(bool enable);
 
+    /// The rendering context.
     HGLRC renderContext() const { return hRC_; }
+    /// The device context.
     HDC deviceContext() const { return hDC_; }
 
 protected:
@@ -71,7 +73,9 @@ protected:
     /// The extended choice, through wglChoosePixelFormatARB (needs a current context).
     int choosePixelFormat(HDC hdc, const BufferFormat& format, teBuffering buffering, teMultisample samples,
                           teWindowed target);
+    /// Sets the pixel format on the device context.
     void setPixelFormat(HDC hdc, int pixelFormat);
+    /// Creates a rendering context on the device context.
     HGLRC createRenderingContext(HDC hdc);
     /// Classic choice, setPixelFormat and createRenderingContext in one.
     HGLRC setupRenderingContext(HDC hdc, const BufferFormat& format, bool doubleBuffered);
@@ -86,8 +90,11 @@ protected:
     /// Always fails: the layer is started by Library or AutoInitializer.
     void initializeExtensions();
 
+    /// Device context.
     HDC hDC_;
+    /// Rendering context.
     HGLRC hRC_;
+    /// Pixel format chosen for the device context.
     int nPixelFormat_;
 
 private:

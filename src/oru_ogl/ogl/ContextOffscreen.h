@@ -17,6 +17,7 @@ class InternalWindow;
 class ORU_OGL_API ContextOffscreen : public Context
 {
 public:
+    /// Creates the hidden window and a context on it, sharing with shareWith unless null.
     explicit ContextOffscreen(Context* shareWith = nullptr);
     virtual ~ContextOffscreen() noexcept(false);
 

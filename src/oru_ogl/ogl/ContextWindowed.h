@@ -13,6 +13,7 @@ namespace OGL
 class ORU_OGL_API ContextWindowed : public Context
 {
 public:
+    /// A context on the caller's window with the format, buffering and samples asked for, sharing with shareWith unless null.
     ContextWindowed(HWND window, const BufferFormat& format, Context::teBuffering buffering,
                     Context::teMultisample samples, Context* shareWith);
     virtual ~ContextWindowed() noexcept(false);

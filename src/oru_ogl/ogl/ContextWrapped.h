@@ -14,6 +14,7 @@ namespace OGL
 class ORU_OGL_API ContextWrapped : public Context
 {
 public:
+    /// Wraps handles the caller keeps owning.
     ContextWrapped(HDC device, HGLRC rendering);
     virtual ~ContextWrapped();
 };

@@ -19,13 +19,16 @@ class Texture2;
 class ORU_OGL_API Framebuffer : public Object
 {
 public:
+    /// Whether GL_EXT_framebuffer_object is supported.
     static bool isSupported();
+    /// GL_MAX_COLOR_ATTACHMENTS_EXT.
     static unsigned int maxColorAttachments();
 
     /// Creates the name; nothing is bound.
     Framebuffer();
     virtual ~Framebuffer();
 
+    /// Binds the framebuffer.
     void bind();
     /// Refuses while not bound; binds the window's framebuffer.
     void unbind();
@@ -38,6 +41,7 @@ public:
     /// At the renderbuffer's point; index only for colour renderbuffers. A
     /// depth-stencil renderbuffer takes the depth and the stencil point.
     void attach(Renderbuffer* renderbuffer, unsigned int index);
+    /// Detaches the texture from a colour attachment; the texture must not be bound.
     void detach(Texture2* texture, unsigned int index);
     /// A depth-stencil renderbuffer leaves the depth point only.
     void detach(Renderbuffer* renderbuffer, unsigned int index);

@@ -18,7 +18,9 @@ class ORU_OGL_API Object
 public:
     virtual ~Object();
 
+    /// The bind target.
     unsigned int target() const;
+    /// The GL name.
     unsigned int objectID() const;
     /// Whether a GL name exists (derived constructors refuse otherwise).
     bool isInitialized() const;
@@ -28,11 +30,13 @@ public:
     bool isBound() const;
 
 protected:
+    /// An object of a bind target, with the query that reads its binding.
     Object(unsigned int target, unsigned int bindingQuery);
 
     /// Points the object at another target; the next isBound() asks about it.
     void changeTarget(unsigned int target, unsigned int bindingQuery);
 
+    /// The GL name.
     unsigned int n_ObjectID;
 
 private:

@@ -18,6 +18,7 @@ namespace OGL
 class ORU_OGL_API PixelUnpackParameters
 {
 public:
+    /// GL_UNPACK_ALIGNMENT values.
     enum teAlignment
     {
         ALIGN_1 = 0,
@@ -28,26 +29,42 @@ public:
 
     PixelUnpackParameters();
 
+    /// GL_UNPACK_SWAP_BYTES.
     bool swapBytes() const;
+    /// Sets swap bytes.
     void enableSwapBytes();
+    /// Clears swap bytes.
     void disableSwapBytes();
 
+    /// GL_UNPACK_LSB_FIRST.
     bool isFirstLSB() const;
+    /// Sets LSB first.
     void makeFirstLSB();
+    /// Clears LSB first.
     void makeFirstMSB();
 
     /// 0 means the image's own width (height for imageHeight), as in GL.
     std::size_t rowLength() const;
+    /// Sets GL_UNPACK_ROW_LENGTH.
     void setRowLength(std::size_t rowLength);
+    /// GL_UNPACK_IMAGE_HEIGHT.
     std::size_t imageHeight() const;
+    /// Sets GL_UNPACK_IMAGE_HEIGHT.
     void setImageHeight(std::size_t imageHeight);
+    /// GL_UNPACK_SKIP_PIXELS.
     std::size_t skipPixels() const;
+    /// Sets GL_UNPACK_SKIP_PIXELS.
     void setSkipPixels(std::size_t skipPixels);
+    /// GL_UNPACK_SKIP_ROWS.
     std::size_t skipRows() const;
+    /// Sets GL_UNPACK_SKIP_ROWS.
     void setSkipRows(std::size_t skipRows);
+    /// GL_UNPACK_SKIP_IMAGES.
     std::size_t skipImages() const;
+    /// Sets GL_UNPACK_SKIP_IMAGES.
     void setSkipImages(std::size_t skipImages);
 
+    /// GL_UNPACK_ALIGNMENT.
     teAlignment alignment();
     /// Stored as given; apply() refuses a value outside the enumeration.
     void setAlignment(teAlignment alignment);

@@ -15,6 +15,7 @@ namespace OGL
 class ORU_OGL_API Renderbuffer : public Object
 {
 public:
+    /// Whether GL_EXT_framebuffer_object is supported.
     static bool isSupported();
     /// The largest width and height the driver takes.
     static int maxSize();
@@ -24,10 +25,14 @@ public:
     Renderbuffer(unsigned int format, int width, int height);
     virtual ~Renderbuffer();
 
+    /// The internal format.
     unsigned int format() const;
+    /// Width in pixels.
     int width() const;
+    /// Height in pixels.
     int height() const;
 
+    /// Binds the renderbuffer.
     void bind();
     /// Refuses while the renderbuffer is not bound.
     void unbind();

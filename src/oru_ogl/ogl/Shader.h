@@ -14,16 +14,20 @@ namespace OGL
 class ORU_OGL_API GLSLObject
 {
 public:
+    /// Shares the GL name.
     GLSLObject(GLSLObject const& other) = default;
+    /// Shares the other object's GL name.
     GLSLObject& operator=(GLSLObject const& other) = default;
     /// Derived destructors check their name and may throw.
     virtual ~GLSLObject() noexcept(false);
 
+    /// The GL name.
     unsigned int objectID() const;
 
 protected:
     GLSLObject();
 
+    /// The GL name.
     unsigned int _hObject;
 };
 
@@ -33,6 +37,7 @@ protected:
 class ORU_OGL_API Shader : public GLSLObject
 {
 public:
+    /// The stage of a shader.
     enum ShaderType
     {
         FRAGMENT_SHADER = 0,
@@ -54,14 +59,17 @@ public:
     /// carrying the driver's log. Without check nothing is thrown.
     void compile(bool check);
 
+    /// GL_COMPILE_STATUS.
     bool isCompiled() const;
     /// Source of at least one character was loaded (an empty string is not).
     bool isLoaded() const;
     /// The log's length including its terminating NUL; 0 without a log.
     int getInfoLogLength() const;
+    /// Copies at most maxLength characters of the info log into buffer.
     void getInfoLog(int maxLength, char* buffer);
 };
 
+/// A GL_VERTEX_SHADER.
 class ORU_OGL_API VertexShader : public Shader
 {
 public:
@@ -69,6 +77,7 @@ public:
     ~VertexShader() noexcept(false) override;
 };
 
+/// A GL_FRAGMENT_SHADER.
 class ORU_OGL_API FragmentShader : public Shader
 {
 public:

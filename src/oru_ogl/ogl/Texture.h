@@ -21,6 +21,7 @@ namespace OGL
 class ORU_OGL_API Texture : public Object
 {
 public:
+    /// Texture targets.
     enum Target
     {
         TEXTURE_1D = 0,
@@ -29,6 +30,7 @@ public:
         TEXTURE_RECT = 3
     };
 
+    /// The binding queries of the targets.
     enum TargetBinding
     {
         TEXTURE_BINDING_1D = 0,
@@ -37,6 +39,7 @@ public:
         TEXTURE_BINDING_RECT = 3
     };
 
+    /// Internal formats.
     enum InternalFormat
     {
         ALPHA = 0,
@@ -108,6 +111,7 @@ public:
         LUMINANCE_ALPHA = 10
     };
 
+    /// Pixel data types.
     enum Type
     {
         UNSIGNED_BYTE = 0,
@@ -133,6 +137,7 @@ public:
         HALF_FLOAT = 20
     };
 
+    /// Minification and magnification filters.
     enum Filter
     {
         NEAREST = 0,
@@ -143,6 +148,7 @@ public:
         LINEAR_MIPMAP_LINEAR = 5
     };
 
+    /// Wrap modes.
     enum WrapMode
     {
         CLAMP = 0,
@@ -152,6 +158,7 @@ public:
         REPEAT = 4
     };
 
+    /// Pixel-store parameters.
     enum PixelStoreMode
     {
         PACK_SWAP_BYTES = 0,
@@ -174,21 +181,37 @@ public:
 
     virtual ~Texture();
 
+    /// GL value of a Target.
     static unsigned int Target2GL(Target target);
+    /// Target of a GL value.
     static Target GL2Target(unsigned int target);
+    /// GL value of a TargetBinding.
     static unsigned int TargetBinding2GL(TargetBinding binding);
+    /// TargetBinding of a GL value.
     static TargetBinding GL2TargetBinding(unsigned int binding);
+    /// GL value of an InternalFormat.
     static unsigned int InternalFormat2GL(InternalFormat format);
+    /// InternalFormat of a GL value.
     static InternalFormat GL2InternalFormat(unsigned int format);
+    /// GL value of a Format.
     static unsigned int Format2GL(Format format);
+    /// Format of a GL value.
     static Format GL2Format(unsigned int format);
+    /// GL value of a Type.
     static unsigned int Type2GL(Type type);
+    /// Type of a GL value.
     static Type GL2Type(unsigned int type);
+    /// GL value of a Filter.
     static unsigned int Filter2GL(Filter filter);
+    /// Filter of a GL value.
     static Filter GL2Filter(unsigned int filter);
+    /// GL value of a WrapMode.
     static unsigned int WrapMode2GL(WrapMode mode);
+    /// WrapMode of a GL value.
     static WrapMode GL2WrapMode(unsigned int mode);
+    /// GL value of a PixelStoreMode.
     static unsigned int PixelStoreMode2GL(PixelStoreMode mode);
+    /// PixelStoreMode of a GL value.
     static PixelStoreMode GL2PixelStoreMode(unsigned int mode);
 
     /// 1D, 2D and 3D always; rectangles with GL_ARB_texture_rectangle.
@@ -196,42 +219,58 @@ public:
     /// GL_SGIS_generate_mipmap, or a version 1.4 to 2.x.
     static bool supportsAutoMIPGeneration();
 
+    /// Number of channels of an internal format.
     static std::size_t Channels(InternalFormat format);
+    /// Number of channels of a pixel format.
     static std::size_t Channels(Format format);
     /// Bytes of a width x height x depth image; raises for formats whose
     /// channels are not 8, 16 or 32 bits wide.
     static std::size_t SizeInBytes(InternalFormat format, std::size_t width, std::size_t height,
                                    std::size_t depth);
 
+    /// The active texture unit.
     static int CurrentUnit_DEPRECATED_1_0();
+    /// Sets the texture environment mode of the active unit.
     static void setEnv_DEPRECATED_1_0(unsigned int mode);
 
+    /// The internal format.
     InternalFormat format();
     /// The level-0 size shifted right by level: 0 past the smallest mip level.
     std::size_t width(unsigned int level) const;
+    /// Height of a mip level.
     std::size_t height(unsigned int level) const;
+    /// Depth of a mip level.
     std::size_t depth(unsigned int level) const;
+    /// Number of channels of the internal format.
     std::size_t channels() const;
     /// The level-0 image's size in bytes, computed on the first call.
     int sizeInBytes() const;
 
     /// The texture must be bound by the caller.
     void setFilter(Filter minFilter, Filter magFilter);
+    /// Sets GL_TEXTURE_BORDER_COLOR from four floats.
     void setBorderColor(const float* rgba);
+    /// Sets GL_GENERATE_MIPMAP.
     void enableAutoMIPGeneration(bool on);
 
     /// unit is a unit index, or CurrentUnit_DEPRECATED_1_0() for the active
     /// one. bind and enable leave the given unit active; unbind, isEnabled and
     /// disable restore the unit that was active before.
     void bind_DEPRECATED_1_0(int unit);
+    /// Enables the target on a unit (CURRENT_UNIT for the active one).
     void enable_DEPRECATED_1_0(int unit);
+    /// Binds no texture to the target on a unit.
     void unbind_DEPRECATED_1_0(int unit);
+    /// Whether the target is enabled on a unit.
     bool isEnabled_DEPRECATED_1_0(int unit) const;
+    /// Disables the target on a unit.
     void disable_DEPRECATED_1_0(int unit);
 
 protected:
+    /// Stands for the active texture unit.
     static const int CURRENT_UNIT = -1;
 
+    /// Creates the GL name of a texture of the given target, format and level-0 size.
     Texture(Target target, TargetBinding binding, InternalFormat format, std::size_t width, std::size_t height,
             std::size_t depth);
 
@@ -239,9 +278,12 @@ protected:
     /// (readback) row alignment; bytes must be 1, 2, 4 or 8. Each push is
     /// paired with one popPixelTransferModes().
     static void pushAndSetTransferByteAlignment(unsigned int bytes);
+    /// Pushes the pixel-store state and sets GL_PACK_ALIGNMENT.
     static void pushAndSetReadbackByteAlignment(unsigned int bytes);
+    /// Pops what the push saved.
     static void popPixelTransferModes();
 
+    /// Throws InternalException unless this texture is bound to its target.
     void verifyCurrentTextureObject() const;
 
     /// Bytes of one component of the type: 1, 2 or 4 for the byte, short,

@@ -36,6 +36,7 @@ public:
     void getPixelData(Buffer* pbo, std::size_t offset, int level, Format format, Type type,
                       unsigned int rowAlignment) const;
 
+    /// Uploads a rectangle of a level from memory.
     void subImage(int level, int x, int y, std::size_t width, std::size_t height, Format format, Type type,
                   const void* data, const PixelUnpackParameters& unpack);
     /// Reads from offset in the buffer, which becomes an unpack buffer.
@@ -47,6 +48,7 @@ public:
     void copyTexSubImage(int level, int x, int y, int readX, int readY, std::size_t width, std::size_t height);
 
 protected:
+    /// Creates the texture with storage for level 0 (and the mip chain with mipmaps).
     Texture2(Target target, TargetBinding binding, InternalFormat format, std::size_t width, std::size_t height,
              bool mipmaps);
 };
@@ -55,6 +57,7 @@ protected:
 class ORU_OGL_API Texture2D : public Texture2
 {
 public:
+    /// Whether 2D textures are available (always).
     static bool isSupported();
 
     /// Without non-power-of-two support (and without rectangle textures) both
@@ -68,8 +71,10 @@ public:
 class ORU_OGL_API TextureRECT : public Texture2
 {
 public:
+    /// Whether GL_ARB_texture_rectangle is supported.
     static bool isSupported();
 
+    /// A rectangle texture of any size.
     TextureRECT(InternalFormat format, std::size_t width, std::size_t height);
     virtual ~TextureRECT();
 };

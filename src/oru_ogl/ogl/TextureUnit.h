@@ -25,6 +25,7 @@ class TextureRECT;
 class ORU_OGL_API TextureUnit
 {
 public:
+    /// Texture environment modes.
     enum Environment
     {
         ADD = 0,
@@ -35,32 +36,54 @@ public:
         REPLACE = 5
     };
 
+    /// GL value of an Environment.
     static unsigned int Environment2GL(Environment environment);
+    /// Environment of a GL value.
     static Environment GL2Environment(unsigned int environment);
 
     /// The object of a unit; the table keeps ownership. Refuses unit >= count.
     static TextureUnit* Unit(unsigned int unit);
 
+    /// Binds a 1D texture.
     void bind(Texture1D* texture) const;
+    /// Binds a 2D texture.
     void bind(Texture2D* texture) const;
+    /// Binds a 3D texture.
     void bind(Texture3D* texture) const;
+    /// Binds a rectangle texture.
     void bind(TextureRECT* texture) const;
+    /// Binds the default 1D texture.
     void bind1DDefault() const;
+    /// Binds the default 2D texture.
     void bind2DDefault() const;
+    /// Binds the default 3D texture.
     void bind3DDefault() const;
+    /// Binds the default rectangle texture.
     void bindRECTDefault() const;
 
+    /// Enables 1D texturing.
     void enable1D() const;
+    /// Enables 2D texturing.
     void enable2D() const;
+    /// Enables 3D texturing.
     void enable3D() const;
+    /// Enables rectangle texturing.
     void enableRECT() const;
+    /// Disables 1D texturing.
     void disable1D() const;
+    /// Disables 2D texturing.
     void disable2D() const;
+    /// Disables 3D texturing.
     void disable3D() const;
+    /// Disables rectangle texturing.
     void disableRECT() const;
+    /// Whether 1D texturing is enabled.
     bool isEnabled1D() const;
+    /// Whether 2D texturing is enabled.
     bool isEnabled2D() const;
+    /// Whether 3D texturing is enabled.
     bool isEnabled3D() const;
+    /// Whether rectangle texturing is enabled.
     bool isEnabledRECT() const;
 
     /// The texture environment mode of the active unit.
