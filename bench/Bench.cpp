@@ -120,25 +120,11 @@ std::string quote(std::string const& argument)
 
 } // namespace
 
-int runChild(std::string const& program, std::vector<std::string> const& args,
-             std::vector<std::string> const& environment)
+int runChild(std::string const& program, std::vector<std::string> const& args)
 {
     std::string commandLine = quote(program);
     for (std::string const& argument : args)
         commandLine += " " + quote(argument);
-
-    // The child's environment: ours plus the extra variables.
-    std::string block;
-    if (!environment.empty())
-    {
-        char* strings = GetEnvironmentStringsA();
-        for (char const* p = strings; *p; p += std::strlen(p) + 1)
-            block.append(p, std::strlen(p) + 1);
-        FreeEnvironmentStringsA(strings);
-        for (std::string const& variable : environment)
-            block.append(variable.c_str(), variable.size() + 1);
-        block.push_back('\0');
-    }
 
     STARTUPINFOA startup = {};
     startup.cb = sizeof(startup);
@@ -146,7 +132,7 @@ int runChild(std::string const& program, std::vector<std::string> const& args,
     std::vector<char> line(commandLine.begin(), commandLine.end());
     line.push_back('\0');
     if (!CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0,
-                        block.empty() ? nullptr : const_cast<char*>(block.data()), nullptr, &startup, &process))
+                        nullptr, nullptr, &startup, &process))
         return -1;
     WaitForSingleObject(process.hProcess, INFINITE);
     DWORD code = 0;

@@ -114,10 +114,8 @@ void contextSection(Environment& env, Rows& rows);
 /// figure; argv after the mode name. Returns the exit code.
 int coldStartupMain(std::vector<std::string> const& args);
 
-/// Starts the program again with the arguments (and extra environment
-/// variables, "NAME=value"), waits, and returns its exit code.
-int runChild(std::string const& program, std::vector<std::string> const& args,
-             std::vector<std::string> const& environment = std::vector<std::string>());
+/// Starts the program again with the arguments, waits, and returns its exit code.
+int runChild(std::string const& program, std::vector<std::string> const& args);
 
 /// Rows as tab-separated lines, for rows computed in another process.
 void writeRows(std::string const& path, Rows const& rows);

@@ -213,7 +213,8 @@ ExtensionManager::InitOptions const& ExtensionManager::initOptions() const
 
 bool ExtensionManager::isSupported(teExtension ext) const
 {
-    return supported_.count(ext) != 0;
+    const unsigned int index = static_cast<unsigned int>(ext);
+    return index < supported_.size() && supported_[index];
 }
 
 bool ExtensionManager::initialize(teExtension ext) const
@@ -406,10 +407,31 @@ bool ExtensionManager::NonPowerOfTwoFlag(teVendor vendor, bool arbNonPowerOfTwo,
 namespace
 {
 
-void markIfLoaded(teExtension id, std::set<teExtension>& supported)
+void markIfLoaded(teExtension id, std::vector<bool>& supported)
 {
     if (ExtensionCatalogue::loadGL(id))
-        supported.insert(id);
+        supported[id] = true;
+}
+
+// Calls f(name, length) for each name of the text, split as
+// TokenizeExtensionString splits, without a string per name: start-up goes
+// through hundreds of names.
+template <class Function>
+void forEachName(std::string const& text, Function f)
+{
+    char const* p = text.data();
+    char const* const end = p + text.size();
+    while (p < end)
+    {
+        while (p < end && *p == ' ')
+            ++p;
+        char const* const name = p;
+        while (p < end && *p != ' ')
+            ++p;
+        if (p == name)
+            break;
+        f(name, static_cast<std::size_t>(p - name));
+    }
 }
 
 } // namespace
@@ -417,7 +439,7 @@ void markIfLoaded(teExtension id, std::set<teExtension>& supported)
 // Each core version brings the ones below it, loaded newest first and each on
 // its own: a failed 1.5 does not keep 1.4 from being marked. 2.1 is never
 // marked, and a driver reporting 3.0 or later matches no case: keep both.
-void ExtensionManager::loadCoreVersions(unsigned int major, unsigned int minor, std::set<teExtension>& supported)
+void ExtensionManager::loadCoreVersions(unsigned int major, unsigned int minor, std::vector<bool>& supported)
 {
     switch (major)
     {
@@ -454,33 +476,27 @@ void ExtensionManager::loadCoreVersions(unsigned int major, unsigned int minor, 
 
 // Names the catalogue does not know are skipped; so is a name whose loader
 // fails, which leaves that extension unsupported.
-void ExtensionManager::loadGLExtensions(std::string const& extensions, std::set<teExtension>& supported)
+void ExtensionManager::loadGLExtensions(std::string const& extensions, std::vector<bool>& supported)
 {
-    std::vector<std::string> names;
-    TokenizeExtensionString(extensions, names);
-    for (std::string const& name : names)
-    {
-        const teExtension id = ExtensionCatalogue::glExtension(name.c_str());
+    forEachName(extensions, [&supported](char const* name, std::size_t length) {
+        const teExtension id = ExtensionCatalogue::glExtension(name, length);
         if (id != UNKNOWN_EXTENSION && ExtensionCatalogue::loadGL(id))
-            supported.insert(id);
-    }
+            supported[id] = true;
+    });
 }
 
 // The WGL names come from wglGetExtensionsStringARB for the current device
 // context; without that entry point no WGL extension is known.
-void ExtensionManager::loadWGLExtensions(std::set<teExtension>& supported)
+void ExtensionManager::loadWGLExtensions(std::vector<bool>& supported)
 {
     if (!ExtensionCatalogue::loadWGL(WGL_ARB_EXTENSIONS_STRING))
         return;
     char const* text = _wcgmGetExtensionsStringARB(wglGetCurrentDC());
-    std::vector<std::string> names;
-    TokenizeExtensionString(text ? text : "", names);
-    for (std::string const& name : names)
-    {
-        const teExtension id = ExtensionCatalogue::wglExtension(name.c_str());
+    forEachName(text ? text : "", [&supported](char const* name, std::size_t length) {
+        const teExtension id = ExtensionCatalogue::wglExtension(name, length);
         if (id != UNKNOWN_EXTENSION && ExtensionCatalogue::loadWGL(id))
-            supported.insert(id);
-    }
+            supported[id] = true;
+    });
 }
 
 // ---------------------------------------------------------------------------
@@ -499,6 +515,7 @@ ExtensionManager::ExtensionManager(Context* pContext, InitOptions const& options
     // Whatever throwOnNullContext() says: without a context there is nothing to read.
     ORU_ENFORCE(pContext != NULL);
     pContext->makeCurrent();
+    supported_.assign(UNKNOWN_EXTENSION, false); // every id is below it
 
     vendor_ = VendorFromString(glText(GL_VENDOR));
     TokenizeVersionString(glText(GL_VERSION), nMajorVersion_, nMinorVersion_, nReleaseVersion_,
