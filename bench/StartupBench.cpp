@@ -35,6 +35,14 @@ struct ExtensionManagerTestAccess
     {
         ExtensionManager::TokenizeExtensionString(text, names);
     }
+    static unsigned int parseVersion(std::string const& text)
+    {
+        unsigned int major = 0, minor = 0;
+        int release = -1;
+        std::string additional;
+        ExtensionManager::TokenizeVersionString(text, major, minor, release, additional);
+        return major * 100 + minor;
+    }
 };
 
 } // namespace OGL
@@ -189,6 +197,8 @@ void startupSection(Environment& env, Rows& rows)
     // catalogue's look-up of every advertised name.
     const GLubyte* extensionText = glGetString(GL_EXTENSIONS);
     const std::string extensions = extensionText ? reinterpret_cast<char const*>(extensionText) : "";
+    const GLubyte* versionText = glGetString(GL_VERSION);
+    const std::string version = versionText ? reinterpret_cast<char const*>(versionText) : "";
     std::vector<std::string> advertised;
     Access::split(extensions, advertised);
     std::vector<Variant> pieces = {
@@ -200,6 +210,9 @@ void startupSection(Environment& env, Rows& rows)
                  gSink = known;
              });
          } },
+        { "version", [&](unsigned int n) {
+             return timed(n, [&](unsigned int) { gSink = Access::parseVersion(version); });
+         } },
     };
     const std::vector<Timing> piece = compare(pieces, Plan{ 15, 3, 10 });
 
@@ -208,7 +221,7 @@ void startupSection(Environment& env, Rows& rows)
     const std::string resultFile = tempPath("cold.txt");
     writeNames(namesFile, bare.names);
     Timing coldManager, coldBare;
-    const unsigned int processes = 7;
+    const unsigned int processes = 9;
     std::string coldLabel = label;
     for (unsigned int i = 0; i < processes; ++i)
     {
@@ -246,6 +259,8 @@ void startupSection(Environment& env, Rows& rows)
     rows.push_back({ head, "of which: `ExtensionCatalogue::glExtension` for the " + std::to_string(advertised.size()) +
                                " advertised GL names",
                      format(piece[0].perOperation, "us", 1), "", "", "" });
+    rows.push_back({ head, "of which: reading the numbers of `GL_VERSION`", format(piece[1].perOperation, "us", 1), "", "",
+                     "" });
     const std::string coldNote = coldLabel == label ? "" : " (**the fresh processes saw " + coldLabel + "**)";
     rows.push_back({ head, "cold: bare driver calls, first in a process (median of " + std::to_string(processes) + ")" + coldNote,
                      format(coldBare.perOperation, "us", 0), "", "", "" });

@@ -121,7 +121,7 @@ std::string markdown(Rows const& rows, std::string const& loadBefore, std::strin
         << "| date | " << today() << " |\n"
         << "| machine | " << cell(registryText("HARDWARE\\DESCRIPTION\\System\\CentralProcessor\\0", "ProcessorNameString"))
         << ", " << system.dwNumberOfProcessors << " logical processors |\n"
-        << "| platform | " << wineVersion() << ", x86-64 build of MinGW-w64 g++ -O2 |\n"
+        << "| platform | " << wineVersion() << ", MinGW-w64 g++ Release build (x86-64) |\n"
         << "| OpenGL | " << cell(glText(GL_RENDERER)) << "; " << cell(glText(GL_VERSION)) << " |\n"
         << "| load average (1, 5, 15 min) | " << loadBefore << " before, " << loadAfter << " after |\n"
         << "| run time | " << formatNumber(seconds, 0) << " s |\n\n"

@@ -138,7 +138,13 @@ bool fetchAll(EntryPoint const* entryPoints, unsigned int count)
     for (unsigned int i = 0; i < count; ++i)
     {
         const PROC address = gResolver(entryPoints[i].name);
-        std::memcpy(entryPoints[i].slot.address, &address, entryPoints[i].slot.size);
+        // Pointer variables have the size of PROC: a fixed-size copy is one
+        // store, where a copy of a run-time size calls the C library's memcpy
+        // for each of the hundreds of entry points start-up fetches.
+        if (entryPoints[i].slot.size == sizeof(address))
+            std::memcpy(entryPoints[i].slot.address, &address, sizeof(address));
+        else
+            std::memcpy(entryPoints[i].slot.address, &address, entryPoints[i].slot.size);
         if (!address)
             return false;
     }

@@ -37,6 +37,7 @@
 
 #include <GL/gl.h>
 
+#include <algorithm>
 #include <sstream>
 
 namespace Oru
@@ -316,6 +317,26 @@ void readNumber(std::stringstream& stream, std::string const& piece, Number& out
         out = value;
 }
 
+// Digits only, and few enough to fit an int: a stream reads such a piece whole
+// and leaves nothing behind for the next one.
+bool isPlainNumber(std::string const& piece)
+{
+    if (piece.empty() || piece.size() > 9)
+        return false;
+    for (char c : piece)
+        if (c < '0' || c > '9')
+            return false;
+    return true;
+}
+
+unsigned int parsePlainNumber(std::string const& piece)
+{
+    unsigned int value = 0;
+    for (char c : piece)
+        value = value * 10 + static_cast<unsigned int>(c - '0');
+    return value;
+}
+
 } // namespace
 
 // "<major>.<minor>[.<release>][ <additional info>]". What drivers report, and
@@ -339,29 +360,48 @@ void ExtensionManager::TokenizeVersionString(std::string const& version, unsigne
 {
     release = -1;
     additional.clear();
-    std::stringstream numbers;
 
+    // The numbers' pieces of text, in order; then they are read.
+    std::string pieces[3];
+    std::size_t count = 1;
     const std::string::size_type p1 = version.find('.');
-    readNumber(numbers, version.substr(0, p1), major);
-    if (p1 == std::string::npos)
-        return; // no minor version at all
-
-    const std::string::size_type p2 = version.find_first_of(" .", p1 + 1);
-    readNumber(numbers, version.substr(p1 + 1, p2 == std::string::npos ? std::string::npos : p2 - p1 - 1), minor);
-    if (p2 == std::string::npos)
-        return;
-
-    std::string::size_type separator = p2;
-    if (version[p2] == '.')
+    pieces[0] = version.substr(0, p1);
+    if (p1 != std::string::npos) // else no minor version at all
     {
-        const std::string::size_type p3 = version.find(' ', p2 + 1);
-        readNumber(numbers, version.substr(p2 + 1, p3 == std::string::npos ? std::string::npos : p3 - p2 - 1),
-                   release);
-        if (p3 == std::string::npos)
-            return;
-        separator = p3;
+        const std::string::size_type p2 = version.find_first_of(" .", p1 + 1);
+        pieces[count++] = version.substr(p1 + 1, p2 == std::string::npos ? std::string::npos : p2 - p1 - 1);
+        if (p2 != std::string::npos)
+        {
+            std::string::size_type separator = p2;
+            if (version[p2] == '.')
+            {
+                const std::string::size_type p3 = version.find(' ', p2 + 1);
+                pieces[count++] =
+                    version.substr(p2 + 1, p3 == std::string::npos ? std::string::npos : p3 - p2 - 1);
+                separator = p3;
+            }
+            if (separator != std::string::npos)
+                additional = version.substr(separator + 1);
+        }
     }
-    additional = version.substr(separator + 1);
+
+    if (std::all_of(pieces, pieces + count, isPlainNumber))
+    {
+        // What drivers report. A stream reads these the same, but the first
+        // stream of a process costs a hundred microseconds of locale set-up.
+        major = parsePlainNumber(pieces[0]);
+        if (count > 1)
+            minor = parsePlainNumber(pieces[1]);
+        if (count > 2)
+            release = static_cast<int>(parsePlainNumber(pieces[2]));
+        return;
+    }
+    std::stringstream numbers;
+    readNumber(numbers, pieces[0], major);
+    if (count > 1)
+        readNumber(numbers, pieces[1], minor);
+    if (count > 2)
+        readNumber(numbers, pieces[2], release);
 }
 
 // Names separated by single blanks; runs of blanks and a trailing blank give no
