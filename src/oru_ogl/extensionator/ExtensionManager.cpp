@@ -37,7 +37,6 @@
 
 #include <GL/gl.h>
 
-#include <algorithm>
 #include <sstream>
 
 namespace Oru
@@ -385,7 +384,10 @@ void ExtensionManager::TokenizeVersionString(std::string const& version, unsigne
         }
     }
 
-    if (std::all_of(pieces, pieces + count, isPlainNumber))
+    bool plain = true;
+    for (std::size_t i = 0; i < count; ++i)
+        plain = plain && isPlainNumber(pieces[i]);
+    if (plain)
     {
         // What drivers report. A stream reads these the same, but the first
         // stream of a process costs a hundred microseconds of locale set-up.
