@@ -86,10 +86,25 @@ typedef const char*(WINAPI* GetExtensionsString)(HDC);
 
 volatile std::uintptr_t gSink;
 
-// The driver calls of one manager creation and nothing else.
+// The driver calls of one manager creation and nothing else. The names are
+// prepared beforehand, and where the extensions string is fetched, so that
+// the timed loop only calls the driver.
 struct BareStartup
 {
     std::vector<std::string> names;
+    std::vector<char const*> cnames;
+    std::size_t extensionsString = static_cast<std::size_t>(-1);
+
+    void prepare()
+    {
+        cnames.clear();
+        for (std::size_t i = 0; i < names.size(); ++i)
+        {
+            cnames.push_back(names[i].c_str());
+            if (names[i] == kExtensionsString && extensionsString == static_cast<std::size_t>(-1))
+                extensionsString = i;
+        }
+    }
 
     void run(ContextOffscreen* context) const
     {
@@ -98,11 +113,11 @@ struct BareStartup
         sink ^= reinterpret_cast<std::uintptr_t>(glGetString(GL_VENDOR));
         sink ^= reinterpret_cast<std::uintptr_t>(glGetString(GL_VERSION));
         sink ^= reinterpret_cast<std::uintptr_t>(glGetString(GL_EXTENSIONS));
-        for (std::string const& name : names)
+        for (std::size_t i = 0; i < cnames.size(); ++i)
         {
-            const PROC address = wglGetProcAddress(name.c_str());
+            const PROC address = wglGetProcAddress(cnames[i]);
             sink ^= reinterpret_cast<std::uintptr_t>(address);
-            if (address && name == kExtensionsString)
+            if (i == extensionsString && address)
                 sink ^= reinterpret_cast<std::uintptr_t>(
                     reinterpret_cast<GetExtensionsString>(reinterpret_cast<void*>(address))(wglGetCurrentDC()));
         }
@@ -161,6 +176,7 @@ void startupSection(Environment& env, Rows& rows)
 
     BareStartup bare;
     bare.names = recordResolvedNames(context);
+    bare.prepare();
     unsigned int unresolved = 0;
     for (std::string const& name : bare.names)
         unresolved += wglGetProcAddress(name.c_str()) ? 0 : 1;
@@ -201,6 +217,21 @@ void startupSection(Environment& env, Rows& rows)
     const std::string version = versionText ? reinterpret_cast<char const*>(versionText) : "";
     std::vector<std::string> advertised;
     Access::split(extensions, advertised);
+    std::vector<Oru::OGL::teExtension> advertisedIds;
+    std::vector<char const*> loaderNames;
+    for (std::string const& name : advertised)
+    {
+        const Oru::OGL::teExtension id = ExtensionCatalogue::glExtension(name.c_str());
+        if (id == Oru::OGL::UNKNOWN_EXTENSION)
+            continue;
+        advertisedIds.push_back(id);
+        for (unsigned int k = 0; k < ExtensionCatalogue::entryPointCount(id); ++k)
+        {
+            loaderNames.push_back(ExtensionCatalogue::entryPointName(id, k));
+            if (!wglGetProcAddress(loaderNames.back()))
+                break; // the loader stops at the first entry point the driver lacks
+        }
+    }
     std::vector<Variant> pieces = {
         { "look-ups", [&](unsigned int n) {
              return timed(n, [&](unsigned int) {
@@ -208,6 +239,22 @@ void startupSection(Environment& env, Rows& rows)
                  for (std::string const& name : advertised)
                      known += ExtensionCatalogue::glExtension(name.data(), name.size()) != Oru::OGL::UNKNOWN_EXTENSION;
                  gSink = known;
+             });
+         } },
+        { "loaders", [&](unsigned int n) {
+             return timed(n, [&](unsigned int) {
+                 unsigned int loaded = 0;
+                 for (Oru::OGL::teExtension id : advertisedIds)
+                     loaded += ExtensionCatalogue::loadGL(id);
+                 gSink = loaded;
+             });
+         } },
+        { "loaders' calls", [&](unsigned int n) {
+             return timed(n, [&](unsigned int) {
+                 std::uintptr_t sink = 0;
+                 for (char const* name : loaderNames)
+                     sink ^= reinterpret_cast<std::uintptr_t>(wglGetProcAddress(name));
+                 gSink = sink;
              });
          } },
         { "version", [&](unsigned int n) {
@@ -259,7 +306,14 @@ void startupSection(Environment& env, Rows& rows)
     rows.push_back({ head, "of which: `ExtensionCatalogue::glExtension` for the " + std::to_string(advertised.size()) +
                                " advertised GL names",
                      format(piece[0].perOperation, "us", 1), "", "", "" });
-    rows.push_back({ head, "of which: reading the numbers of `GL_VERSION`", format(piece[1].perOperation, "us", 1), "", "",
+    rows.push_back({ head, "of which: the loaders of the " + std::to_string(advertisedIds.size()) +
+                               " advertised ids the catalogue knows",
+                     format(piece[1].perOperation, "us", 1),
+                     formatRatio(ratio(piece[1], piece[2]), ("their " + std::to_string(loaderNames.size()) +
+                                                                " bare `wglGetProcAddress` calls (" +
+                                                                format(piece[2].perOperation, "us", 1) + ")").c_str()),
+                     "", "" });
+    rows.push_back({ head, "of which: reading the numbers of `GL_VERSION`", format(piece[3].perOperation, "us", 1), "", "",
                      "" });
     const std::string coldNote = coldLabel == label ? "" : " (**the fresh processes saw " + coldLabel + "**)";
     rows.push_back({ head, "cold: bare driver calls, first in a process (median of " + std::to_string(processes) + ")" + coldNote,
@@ -283,6 +337,7 @@ int coldStartupMain(std::vector<std::string> const& args)
         if (args.size() < 3)
             return 2;
         bare.names = readNames(args[2]);
+        bare.prepare();
     }
     std::unique_ptr<ContextOffscreen> context(new ContextOffscreen());
     const double start = now();

@@ -36,7 +36,7 @@
 #include "oru_ogl/ogl/Context.h"
 
 #include <GL/gl.h>
-
+#include <emmintrin.h> // SSE2, which every x86-64 processor has
 #include <sstream>
 
 namespace Oru
@@ -455,23 +455,51 @@ void markIfLoaded(teExtension id, std::vector<bool>& supported)
         supported[id] = true;
 }
 
-// Calls f(name, length) for each name of the text, split as
-// TokenizeExtensionString splits, without a string per name: start-up goes
-// through hundreds of names.
-template <class Function>
-void forEachName(std::string const& text, Function f)
+// The first blank or terminator at or after p. Sixteen bytes at a time: the
+// extension string runs to thousands of characters. The loads are aligned, so
+// none reaches into a page the string does not touch.
+char const* nameEnd(char const* p)
 {
-    char const* p = text.data();
-    char const* const end = p + text.size();
-    while (p < end)
+    for (; reinterpret_cast<std::size_t>(p) % 16 != 0; ++p)
     {
-        while (p < end && *p == ' ')
+        if (*p == ' ' || *p == '\0')
+            return p;
+    }
+    const __m128i blank = _mm_set1_epi8(' ');
+    const __m128i zero = _mm_setzero_si128();
+    for (;; p += 16)
+    {
+        const __m128i bytes = _mm_load_si128(reinterpret_cast<__m128i const*>(p));
+        const unsigned int hits = static_cast<unsigned int>(
+            _mm_movemask_epi8(_mm_or_si128(_mm_cmpeq_epi8(bytes, blank), _mm_cmpeq_epi8(bytes, zero))));
+        if (hits != 0)
+        {
+#if defined(_MSC_VER)
+            unsigned long first;
+            _BitScanForward(&first, hits);
+            return p + first;
+#else
+            return p + __builtin_ctz(hits);
+#endif
+        }
+    }
+}
+
+// Calls f(name, length) for each name of the text, split as
+// TokenizeExtensionString splits, without copying the text or making a string
+// per name: start-up goes through hundreds of names.
+template <class Function>
+void forEachName(char const* text, Function f)
+{
+    char const* p = text;
+    for (;;)
+    {
+        while (*p == ' ')
             ++p;
+        if (*p == '\0')
+            return;
         char const* const name = p;
-        while (p < end && *p != ' ')
-            ++p;
-        if (p == name)
-            break;
+        p = nameEnd(p);
         f(name, static_cast<std::size_t>(p - name));
     }
 }
@@ -518,7 +546,7 @@ void ExtensionManager::loadCoreVersions(unsigned int major, unsigned int minor, 
 
 // Names the catalogue does not know are skipped; so is a name whose loader
 // fails, which leaves that extension unsupported.
-void ExtensionManager::loadGLExtensions(std::string const& extensions, std::vector<bool>& supported)
+void ExtensionManager::loadGLExtensions(char const* extensions, std::vector<bool>& supported)
 {
     forEachName(extensions, [&supported](char const* name, std::size_t length) {
         const teExtension id = ExtensionCatalogue::glExtension(name, length);
@@ -564,7 +592,8 @@ ExtensionManager::ExtensionManager(Context* pContext, InitOptions const& options
                           additionalVersionInfo_);
 
     loadCoreVersions(nMajorVersion_, nMinorVersion_, supported_);
-    loadGLExtensions(glText(GL_EXTENSIONS), supported_);
+    const GLubyte* extensions = glGetString(GL_EXTENSIONS); // read in place: thousands of characters
+    loadGLExtensions(extensions ? reinterpret_cast<char const*>(extensions) : "", supported_);
     loadWGLExtensions(supported_);
 
     bNonPowerOfTwo_ = NonPowerOfTwoFlag(vendor_, isSupported(GL_ARB_TEXTURE_NON_POWER_OF_TWO), isSupported(OPEN_GL_2_0));

@@ -105,7 +105,7 @@ private:
     static teVendor VendorFromString(std::string const& vendor);
     static bool NonPowerOfTwoFlag(teVendor vendor, bool arbNonPowerOfTwo, bool openGL20);
     static void loadCoreVersions(unsigned int major, unsigned int minor, std::vector<bool>& supported);
-    static void loadGLExtensions(std::string const& extensions, std::vector<bool>& supported);
+    static void loadGLExtensions(char const* extensions, std::vector<bool>& supported);
     static void loadWGLExtensions(std::vector<bool>& supported);
 
     std::vector<bool> supported_; // by id
