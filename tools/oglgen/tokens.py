@@ -1,4 +1,4 @@
-"""TokenName: one switch over the value, a static string per case."""
+"""TokenName: a two-level table over the value, a static string per row."""
 import os
 
 from .output import banner, write_if_changed
@@ -31,16 +31,65 @@ def read_tokens(catalogue_dir):
     return rows
 
 
+PAGE_BITS = 5  # 32 values per page: the smallest page table whose page numbers fit a byte
+PAGE = 1 << PAGE_BITS
+UNKNOWN = "Unknown Token"
+
+
 def generate(catalogue_dir, output_dir):
     rows = sorted(read_tokens(catalogue_dir))
+    small = [(v, n) for v, n in rows if v < 0x10000]
+    large = [(v, n) for v, n in rows if v >= 0x10000]
+
+    # All names in one pool, "Unknown Token" first: a value's entry is the offset
+    # of its name, and 0 names every value without one.
+    offset, pool = {}, [UNKNOWN]
+    position = len(UNKNOWN) + 1
+    for value, name in rows:
+        offset[value] = position
+        pool.append(name)
+        position += len(name) + 1
+    pages = sorted({v >> PAGE_BITS for v, _ in small})
+    if position > 0xFFFF or len(pages) > 255:
+        raise SystemExit("%s: the names or values outgrow the look-up table" % SOURCE)
+    page_number = {p: i + 1 for i, p in enumerate(pages)}  # page 0 names nothing
+
     out = [banner(SOURCE),
            '#include "oru_ogl/TokenName.h"\n\n',
-           "// %d values. The compiler turns the switch into jump tables over the dense\n" % len(rows),
-           "// ranges and a comparison tree between them: no search, no allocation.\n",
-           "extern \"C\" char const* TokenName(unsigned int token)\n{\n    switch (token)\n    {\n"]
-    for value, name in rows:
-        out.append("    case 0x%04Xu: return \"%s\";\n" % (value, name))
-    out.append("    default: return \"Unknown Token\";\n    }\n}\n")
+           "// %d values. A value below 0x10000 (all but %d) is found in two table reads,\n" % (len(rows), len(large)),
+           "// its page by the high bits, then its name's offset by the low %d bits: no\n" % PAGE_BITS,
+           "// comparisons to mispredict, no search, no allocation, about 12 KB of tables.\n",
+           "// Page 0 holds only offset 0, \"%s\", so a value on no page needs no test.\n" % UNKNOWN,
+           "namespace\n{\n\n",
+           "const char kPool[] =\n"]
+    for name in pool:
+        out.append('    "%s\\0"\n' % name)
+    out.append("    ;\n\n")
+
+    index_size = 0x10000 >> PAGE_BITS
+    page_of = [page_number.get(high, 0) for high in range(index_size)]
+    out.append("const unsigned char kPageOf[%d] = {\n" % index_size)
+    for i in range(0, index_size, 32):
+        out.append("    " + ", ".join("%d" % x for x in page_of[i:i + 32]) + ",\n")
+    out.append("};\n\n")
+
+    out.append("const unsigned short kPages[%d][%d] = {\n" % (len(pages) + 1, PAGE))
+    for page in [None] + pages:
+        entries = [offset.get((page << PAGE_BITS) + low, 0) if page is not None else 0 for low in range(PAGE)]
+        label = "no names" if page is None else "0x%04X" % (page << PAGE_BITS)
+        out.append("    { %s }, // %s\n" % (", ".join("%d" % x for x in entries), label))
+    out.append("};\n\n")
+
+    out.append("// The few values of 0x10000 and above: bit masks and vendor ranges.\n")
+    out.append("unsigned int largeOffset(unsigned int token)\n{\n    switch (token)\n    {\n")
+    for value, name in large:
+        out.append("    case 0x%04Xu: return %d; // %s\n" % (value, offset[value], name))
+    out.append("    default: return 0;\n    }\n}\n\n} // namespace\n\n")
+
+    out.append("extern \"C\" char const* TokenName(unsigned int token)\n{\n"
+               "    if (token >= 0x10000u)\n"
+               "        return kPool + largeOffset(token);\n"
+               "    return kPool + kPages[kPageOf[token >> %d]][token & %du];\n}\n" % (PAGE_BITS, PAGE - 1))
     write_if_changed(os.path.join(output_dir, "TokenNameTable.cpp"), "".join(out))
 
     # The same rows as an X-macro table, for the tests.

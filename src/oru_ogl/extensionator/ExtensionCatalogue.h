@@ -6,6 +6,8 @@
 
 #include <windows.h>
 
+#include <cstddef>
+
 namespace Oru
 {
 namespace OGL
@@ -23,6 +25,10 @@ public:
     static teExtension glExtension(char const* name);
     /// The id of a WGL extension name, else UNKNOWN_EXTENSION.
     static teExtension wglExtension(char const* name);
+    /// The same for a name of known length, which need not be NUL-terminated
+    /// (a name inside an extension string).
+    static teExtension glExtension(char const* name, std::size_t length);
+    static teExtension wglExtension(char const* name, std::size_t length);
 
     /// Runs the loader of a GL id (0 to 300): fetches its entry points in order
     /// and stops at the first one the driver lacks. False for any other id.

@@ -36,7 +36,7 @@
 #include "oru_ogl/ogl/Context.h"
 
 #include <GL/gl.h>
-
+#include <emmintrin.h> // SSE2, which every x86-64 processor has
 #include <sstream>
 
 namespace Oru
@@ -213,7 +213,8 @@ ExtensionManager::InitOptions const& ExtensionManager::initOptions() const
 
 bool ExtensionManager::isSupported(teExtension ext) const
 {
-    return supported_.count(ext) != 0;
+    const unsigned int index = static_cast<unsigned int>(ext);
+    return index < supported_.size() && supported_[index];
 }
 
 bool ExtensionManager::initialize(teExtension ext) const
@@ -315,6 +316,26 @@ void readNumber(std::stringstream& stream, std::string const& piece, Number& out
         out = value;
 }
 
+// Digits only, and few enough to fit an int: a stream reads such a piece whole
+// and leaves nothing behind for the next one.
+bool isPlainNumber(std::string const& piece)
+{
+    if (piece.empty() || piece.size() > 9)
+        return false;
+    for (char c : piece)
+        if (c < '0' || c > '9')
+            return false;
+    return true;
+}
+
+unsigned int parsePlainNumber(std::string const& piece)
+{
+    unsigned int value = 0;
+    for (char c : piece)
+        value = value * 10 + static_cast<unsigned int>(c - '0');
+    return value;
+}
+
 } // namespace
 
 // "<major>.<minor>[.<release>][ <additional info>]". What drivers report, and
@@ -338,29 +359,51 @@ void ExtensionManager::TokenizeVersionString(std::string const& version, unsigne
 {
     release = -1;
     additional.clear();
-    std::stringstream numbers;
 
+    // The numbers' pieces of text, in order; then they are read.
+    std::string pieces[3];
+    std::size_t count = 1;
     const std::string::size_type p1 = version.find('.');
-    readNumber(numbers, version.substr(0, p1), major);
-    if (p1 == std::string::npos)
-        return; // no minor version at all
-
-    const std::string::size_type p2 = version.find_first_of(" .", p1 + 1);
-    readNumber(numbers, version.substr(p1 + 1, p2 == std::string::npos ? std::string::npos : p2 - p1 - 1), minor);
-    if (p2 == std::string::npos)
-        return;
-
-    std::string::size_type separator = p2;
-    if (version[p2] == '.')
+    pieces[0] = version.substr(0, p1);
+    if (p1 != std::string::npos) // else no minor version at all
     {
-        const std::string::size_type p3 = version.find(' ', p2 + 1);
-        readNumber(numbers, version.substr(p2 + 1, p3 == std::string::npos ? std::string::npos : p3 - p2 - 1),
-                   release);
-        if (p3 == std::string::npos)
-            return;
-        separator = p3;
+        const std::string::size_type p2 = version.find_first_of(" .", p1 + 1);
+        pieces[count++] = version.substr(p1 + 1, p2 == std::string::npos ? std::string::npos : p2 - p1 - 1);
+        if (p2 != std::string::npos)
+        {
+            std::string::size_type separator = p2;
+            if (version[p2] == '.')
+            {
+                const std::string::size_type p3 = version.find(' ', p2 + 1);
+                pieces[count++] =
+                    version.substr(p2 + 1, p3 == std::string::npos ? std::string::npos : p3 - p2 - 1);
+                separator = p3;
+            }
+            if (separator != std::string::npos)
+                additional = version.substr(separator + 1);
+        }
     }
-    additional = version.substr(separator + 1);
+
+    bool plain = true;
+    for (std::size_t i = 0; i < count; ++i)
+        plain = plain && isPlainNumber(pieces[i]);
+    if (plain)
+    {
+        // What drivers report. A stream reads these the same, but the first
+        // stream of a process costs a hundred microseconds of locale set-up.
+        major = parsePlainNumber(pieces[0]);
+        if (count > 1)
+            minor = parsePlainNumber(pieces[1]);
+        if (count > 2)
+            release = static_cast<int>(parsePlainNumber(pieces[2]));
+        return;
+    }
+    std::stringstream numbers;
+    readNumber(numbers, pieces[0], major);
+    if (count > 1)
+        readNumber(numbers, pieces[1], minor);
+    if (count > 2)
+        readNumber(numbers, pieces[2], release);
 }
 
 // Names separated by single blanks; runs of blanks and a trailing blank give no
@@ -406,10 +449,59 @@ bool ExtensionManager::NonPowerOfTwoFlag(teVendor vendor, bool arbNonPowerOfTwo,
 namespace
 {
 
-void markIfLoaded(teExtension id, std::set<teExtension>& supported)
+void markIfLoaded(teExtension id, std::vector<bool>& supported)
 {
     if (ExtensionCatalogue::loadGL(id))
-        supported.insert(id);
+        supported[id] = true;
+}
+
+// The first blank or terminator at or after p. Sixteen bytes at a time: the
+// extension string runs to thousands of characters. The loads are aligned, so
+// none reaches into a page the string does not touch.
+char const* nameEnd(char const* p)
+{
+    for (; reinterpret_cast<std::size_t>(p) % 16 != 0; ++p)
+    {
+        if (*p == ' ' || *p == '\0')
+            return p;
+    }
+    const __m128i blank = _mm_set1_epi8(' ');
+    const __m128i zero = _mm_setzero_si128();
+    for (;; p += 16)
+    {
+        const __m128i bytes = _mm_load_si128(reinterpret_cast<__m128i const*>(p));
+        const unsigned int hits = static_cast<unsigned int>(
+            _mm_movemask_epi8(_mm_or_si128(_mm_cmpeq_epi8(bytes, blank), _mm_cmpeq_epi8(bytes, zero))));
+        if (hits != 0)
+        {
+#if defined(_MSC_VER)
+            unsigned long first;
+            _BitScanForward(&first, hits);
+            return p + first;
+#else
+            return p + __builtin_ctz(hits);
+#endif
+        }
+    }
+}
+
+// Calls f(name, length) for each name of the text, split as
+// TokenizeExtensionString splits, without copying the text or making a string
+// per name: start-up goes through hundreds of names.
+template <class Function>
+void forEachName(char const* text, Function f)
+{
+    char const* p = text;
+    for (;;)
+    {
+        while (*p == ' ')
+            ++p;
+        if (*p == '\0')
+            return;
+        char const* const name = p;
+        p = nameEnd(p);
+        f(name, static_cast<std::size_t>(p - name));
+    }
 }
 
 } // namespace
@@ -417,7 +509,7 @@ void markIfLoaded(teExtension id, std::set<teExtension>& supported)
 // Each core version brings the ones below it, loaded newest first and each on
 // its own: a failed 1.5 does not keep 1.4 from being marked. 2.1 is never
 // marked, and a driver reporting 3.0 or later matches no case: keep both.
-void ExtensionManager::loadCoreVersions(unsigned int major, unsigned int minor, std::set<teExtension>& supported)
+void ExtensionManager::loadCoreVersions(unsigned int major, unsigned int minor, std::vector<bool>& supported)
 {
     switch (major)
     {
@@ -454,33 +546,27 @@ void ExtensionManager::loadCoreVersions(unsigned int major, unsigned int minor, 
 
 // Names the catalogue does not know are skipped; so is a name whose loader
 // fails, which leaves that extension unsupported.
-void ExtensionManager::loadGLExtensions(std::string const& extensions, std::set<teExtension>& supported)
+void ExtensionManager::loadGLExtensions(char const* extensions, std::vector<bool>& supported)
 {
-    std::vector<std::string> names;
-    TokenizeExtensionString(extensions, names);
-    for (std::string const& name : names)
-    {
-        const teExtension id = ExtensionCatalogue::glExtension(name.c_str());
+    forEachName(extensions, [&supported](char const* name, std::size_t length) {
+        const teExtension id = ExtensionCatalogue::glExtension(name, length);
         if (id != UNKNOWN_EXTENSION && ExtensionCatalogue::loadGL(id))
-            supported.insert(id);
-    }
+            supported[id] = true;
+    });
 }
 
 // The WGL names come from wglGetExtensionsStringARB for the current device
 // context; without that entry point no WGL extension is known.
-void ExtensionManager::loadWGLExtensions(std::set<teExtension>& supported)
+void ExtensionManager::loadWGLExtensions(std::vector<bool>& supported)
 {
     if (!ExtensionCatalogue::loadWGL(WGL_ARB_EXTENSIONS_STRING))
         return;
     char const* text = _wcgmGetExtensionsStringARB(wglGetCurrentDC());
-    std::vector<std::string> names;
-    TokenizeExtensionString(text ? text : "", names);
-    for (std::string const& name : names)
-    {
-        const teExtension id = ExtensionCatalogue::wglExtension(name.c_str());
+    forEachName(text ? text : "", [&supported](char const* name, std::size_t length) {
+        const teExtension id = ExtensionCatalogue::wglExtension(name, length);
         if (id != UNKNOWN_EXTENSION && ExtensionCatalogue::loadWGL(id))
-            supported.insert(id);
-    }
+            supported[id] = true;
+    });
 }
 
 // ---------------------------------------------------------------------------
@@ -499,13 +585,15 @@ ExtensionManager::ExtensionManager(Context* pContext, InitOptions const& options
     // Whatever throwOnNullContext() says: without a context there is nothing to read.
     ORU_ENFORCE(pContext != NULL);
     pContext->makeCurrent();
+    supported_.assign(UNKNOWN_EXTENSION, false); // every id is below it
 
     vendor_ = VendorFromString(glText(GL_VENDOR));
     TokenizeVersionString(glText(GL_VERSION), nMajorVersion_, nMinorVersion_, nReleaseVersion_,
                           additionalVersionInfo_);
 
     loadCoreVersions(nMajorVersion_, nMinorVersion_, supported_);
-    loadGLExtensions(glText(GL_EXTENSIONS), supported_);
+    const GLubyte* extensions = glGetString(GL_EXTENSIONS); // read in place: thousands of characters
+    loadGLExtensions(extensions ? reinterpret_cast<char const*>(extensions) : "", supported_);
     loadWGLExtensions(supported_);
 
     bNonPowerOfTwo_ = NonPowerOfTwoFlag(vendor_, isSupported(GL_ARB_TEXTURE_NON_POWER_OF_TWO), isSupported(OPEN_GL_2_0));

@@ -4,7 +4,6 @@
 #include "oru_ogl/OglExport.h"
 #include "oru_ogl/extensionator/Extensions.h"
 
-#include <set>
 #include <string>
 #include <vector>
 
@@ -128,11 +127,11 @@ private:
     static void TokenizeExtensionString(std::string const& extensions, std::vector<std::string>& tokens);
     static teVendor VendorFromString(std::string const& vendor);
     static bool NonPowerOfTwoFlag(teVendor vendor, bool arbNonPowerOfTwo, bool openGL20);
-    static void loadCoreVersions(unsigned int major, unsigned int minor, std::set<teExtension>& supported);
-    static void loadGLExtensions(std::string const& extensions, std::set<teExtension>& supported);
-    static void loadWGLExtensions(std::set<teExtension>& supported);
+    static void loadCoreVersions(unsigned int major, unsigned int minor, std::vector<bool>& supported);
+    static void loadGLExtensions(char const* extensions, std::vector<bool>& supported);
+    static void loadWGLExtensions(std::vector<bool>& supported);
 
-    std::set<teExtension> supported_;
+    std::vector<bool> supported_; // by id
     unsigned int nMajorVersion_;
     unsigned int nMinorVersion_;
     int nReleaseVersion_;
