@@ -36,7 +36,7 @@
 #include "oru_ogl/ogl/Context.h"
 
 #include <GL/gl.h>
-#include <emmintrin.h> // SSE2, which every x86-64 processor has
+#include <intrin.h> // SSE2 (every x86-64 processor has it) and bit scans, with MinGW and MSVC
 #include <sstream>
 
 namespace Oru
