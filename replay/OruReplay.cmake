@@ -26,7 +26,11 @@ function(oru_add_replay target)
   configure_file(${CMAKE_CURRENT_FUNCTION_LIST_DIR}/oru_replay/RecordingUnit.cpp.in ${unit} @ONLY)
 
   add_executable(${target} ${unit})
-  target_link_libraries(${target} PRIVATE oru_replay_main)
+  if(TARGET oru::replay_main) # from an installed package
+    target_link_libraries(${target} PRIVATE oru::replay_main)
+  else()
+    target_link_libraries(${target} PRIVATE oru_replay_main)
+  endif()
   # A recording is one long function of straight-line calls: optimising it
   # takes long and gains nothing. Its text is not ours to warn about.
   if(MSVC)
