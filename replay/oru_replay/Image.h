@@ -12,9 +12,9 @@ namespace Replay
 /// 8-bit RGBA pixels, rows bottom-up as glReadPixels returns them.
 struct Image
 {
-    unsigned int width = 0;
-    unsigned int height = 0;
-    std::vector<unsigned char> rgba;
+    unsigned int width = 0;          ///< in pixels
+    unsigned int height = 0;         ///< in pixels
+    std::vector<unsigned char> rgba; ///< width * height * 4 bytes
 };
 
 /// Reads the RGBA pixels of the current read buffer, whatever the pixel-store

@@ -16,8 +16,10 @@
 /// and which would otherwise be narrowing list-initialisations.
 struct RecordedFloat
 {
-    float value;
+    float value; ///< the float, bit for bit as recorded
+    /// The float itself.
     operator float() const { return value; }
+    /// The float truncated, as the recorded int arrays take it.
     operator int() const { return static_cast<int>(value); }
 };
 
@@ -58,10 +60,10 @@ BOOL oruReplaySwapLayerBuffers(HDC recorded, UINT planes);
 /// One recording compiled into a replay program (oru_add_replay writes it).
 struct OruReplayRecording
 {
-    char const* dataFile; // default of --data
-    int width;            // default size of the replay's windows
-    int height;
-    void (*calls)();
+    char const* dataFile; ///< the binary file, the default of --data
+    int width;            ///< default width of the replay's windows
+    int height;           ///< default height of the replay's windows
+    void (*calls)();      ///< the recorded calls
 };
 extern const OruReplayRecording oruReplayRecording;
 

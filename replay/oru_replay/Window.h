@@ -17,18 +17,24 @@ namespace Replay
 class Window
 {
 public:
+    /// A hidden window with a client area of width x height and a pixel format set.
     Window(int width, int height);
     ~Window();
     Window(Window const&) = delete;
     Window& operator=(Window const&) = delete;
 
+    /// Whether the window and its pixel format were made.
     bool valid() const { return dc_ != nullptr; }
     /// Why the window or its pixel format could not be made.
     std::string const& error() const { return error_; }
 
+    /// The window.
     HWND handle() const { return window_; }
+    /// Its device context, with the pixel format set.
     HDC deviceContext() const { return dc_; }
+    /// Client width in pixels.
     int width() const { return width_; }
+    /// Client height in pixels.
     int height() const { return height_; }
 
 private:

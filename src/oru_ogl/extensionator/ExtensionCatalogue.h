@@ -28,6 +28,7 @@ public:
     /// The same for a name of known length, which need not be NUL-terminated
     /// (a name inside an extension string).
     static teExtension glExtension(char const* name, std::size_t length);
+    /// The same for a WGL name of known length.
     static teExtension wglExtension(char const* name, std::size_t length);
 
     /// Runs the loader of a GL id (0 to 300): fetches its entry points in order

@@ -39,13 +39,21 @@ class CallText;
 class ORU_OGL_API OpenGLRekorder : public OpenGLInterceptorDecorator
 {
 public:
+    /// Records onto code (text) and data (binary), forwarding to next (or to
+    /// the chain's top when pushed with addInterceptor); lineComments ends each
+    /// recorded call with a comment naming the caller's file and line.
     OpenGLRekorder(std::ostream& code, std::ostream& data, OpenGLInterceptor* next, bool lineComments);
     virtual ~OpenGLRekorder();
 
+    /// The code stream.
     std::ostream* outputStream() { return outputStream_; }
+    /// The code stream.
     std::ostream const* outputStream() const { return outputStream_; }
+    /// The binary stream.
     std::ostream* binaryOutputStream() { return binaryOutputStream_; }
+    /// The binary stream.
     std::ostream const* binaryOutputStream() const { return binaryOutputStream_; }
+    /// Writes the text from now on to code.
     void setOutputStream(std::ostream& code) { outputStream_ = &code; }
     /// The offsets keep counting from where they were: the new stream is taken
     /// to continue the old one.
@@ -53,6 +61,7 @@ public:
 
     /// Bytes written to the binary stream so far.
     std::uint32_t binaryOffset() const { return binaryOffset_; }
+    /// Whether each recorded call ends with a file-and-line comment.
     bool lineComments() const { return lineComments_; }
 
 #define ORU_GL_OPERATION_TAIL override

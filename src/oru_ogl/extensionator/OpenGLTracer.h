@@ -23,11 +23,16 @@ namespace OGL
 class ORU_OGL_API OpenGLTracer : public OpenGLInterceptorDecorator
 {
 public:
+    /// Traces onto out, forwarding to next (or to the chain's top when pushed
+    /// with addInterceptor).
     explicit OpenGLTracer(std::ostream& out = std::cout, OpenGLInterceptor* next = nullptr);
     virtual ~OpenGLTracer();
 
+    /// The trace stream.
     std::ostream* outputStream() { return outputStream_; }
+    /// The trace stream.
     std::ostream const* outputStream() const { return outputStream_; }
+    /// Traces from now on to out.
     void setOutputStream(std::ostream& out) { outputStream_ = &out; }
 
 #define ORU_GL_OPERATION_TAIL override

@@ -36,6 +36,8 @@ class ORU_OGL_API wglRekorder : public wglInterceptorDecorator
 public:
     /// Sets no streams: a recorder made so must not record.
     wglRekorder();
+    /// Records onto code (writing addCurrentAppDC for appDC first), keeps data
+    /// for symmetry, forwards to next; lineComments as for OpenGLRekorder.
     wglRekorder(std::ostream& code, std::ostream& data, HDC appDC, wglInterceptor* next, bool lineComments);
     virtual ~wglRekorder();
 
