@@ -97,42 +97,36 @@ void OpenGLRekorder::lineEnd(CallText& t, char const* file, unsigned int line) c
 // ---------------------------------------------------------------------------
 // Matrices: the 16 elements as one block.
 
-void OpenGLRekorder::cgmLoadMatrixf(const char* file, unsigned int line, const GLfloat* m)
+void OpenGLRekorder::recordMatrix(char const* file, unsigned int line, std::uint32_t length, void const* elements,
+                                  char const* callLine)
 {
     const std::uint32_t offset = binaryOffset_;
-    writeBlock(16 * sizeof(GLfloat), m);
+    writeBlock(length, elements);
     CallText t(*outputStream_);
     readBackHead(t, offset, true);
-    t.put("    glLoadMatrixf((GLfloat *)&data[0]);");
+    t.cString(callLine);
     lineEnd(t, file, line);
     t.put("}\n");
     t.send();
+}
+
+void OpenGLRekorder::cgmLoadMatrixf(const char* file, unsigned int line, const GLfloat* m)
+{
+    recordMatrix(file, line, 16 * sizeof(GLfloat), m, "    glLoadMatrixf((GLfloat *)&data[0]);");
     return pInterceptor_->cgmLoadMatrixf(file, line, m);
 }
 
 void OpenGLRekorder::cgmMultMatrixf(const char* file, unsigned int line, const GLfloat* m)
 {
-    const std::uint32_t offset = binaryOffset_;
-    writeBlock(16 * sizeof(GLfloat), m);
-    CallText t(*outputStream_);
-    readBackHead(t, offset, true);
-    t.put("    glMultMatrixf(reinterpret_cast<const GLfloat *>(&data[0]));");
-    lineEnd(t, file, line);
-    t.put("}\n");
-    t.send();
+    recordMatrix(file, line, 16 * sizeof(GLfloat), m,
+                 "    glMultMatrixf(reinterpret_cast<const GLfloat *>(&data[0]));");
     return pInterceptor_->cgmMultMatrixf(file, line, m);
 }
 
 void OpenGLRekorder::cgmMultMatrixd(const char* file, unsigned int line, const GLdouble* m)
 {
-    const std::uint32_t offset = binaryOffset_;
-    writeBlock(16 * sizeof(GLdouble), m);
-    CallText t(*outputStream_);
-    readBackHead(t, offset, true);
-    t.put("    glMultMatrixd(reinterpret_cast<const GLdouble *>(&data[0]));");
-    lineEnd(t, file, line);
-    t.put("}\n");
-    t.send();
+    recordMatrix(file, line, 16 * sizeof(GLdouble), m,
+                 "    glMultMatrixd(reinterpret_cast<const GLdouble *>(&data[0]));");
     return pInterceptor_->cgmMultMatrixd(file, line, m);
 }
 

@@ -102,6 +102,9 @@ private:
     // format or type is not one the recorder knows.
     bool pixelBytes(GLenum format, GLenum type, GLsizei width, GLsizei height, std::uint32_t& bytes);
     void lineEnd(detail::CallText& t, char const* file, unsigned int line) const;
+    // A 4-byte-length block of matrix elements and the generic read-back around callLine.
+    void recordMatrix(char const* file, unsigned int line, std::uint32_t length, void const* elements,
+                      char const* callLine);
 
     std::ostream* outputStream_;
     std::ostream* binaryOutputStream_;
