@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
+#include <cstring>
 #include <iostream>
 #include <sstream>
 #include <string>
@@ -81,6 +82,24 @@ TEST_F(TracerTest, CharacterPointersShowTheirTextOtherPointersTheirAddress)
     char const* sources[] = { "x" };
     tracer.cgmShaderSource("f", 6, 2, 1, sources, nullptr);
     EXPECT_EQ("f:6: glShaderSource(2, 1, " + hexAddress(sources) + ", 0)\n", take());
+}
+
+// Texts are measured and copied in blocks: every length at every alignment,
+// with bytes after the terminating zero that must not show.
+TEST_F(TracerTest, TextsOfEveryLengthAndAlignmentAreWrittenExactly)
+{
+    alignas(16) char storage[128];
+    for (std::size_t offset = 0; offset < 16; ++offset)
+        for (std::size_t length = 0; length <= 80; ++length)
+        {
+            std::memset(storage, 'z', sizeof(storage));
+            std::string expected;
+            for (std::size_t k = 0; k < length; ++k)
+                expected += static_cast<char>('a' + (k * 7 + offset) % 26);
+            std::memcpy(storage + offset, expected.c_str(), length + 1);
+            tracer.cgmGetAttribLocation(storage + offset, 1, 2, storage + offset);
+            ASSERT_EQ(expected + ":1: glGetAttribLocation(2, " + expected + ")\n", take()) << offset << " " << length;
+        }
 }
 
 // Long arguments go out whole, beyond the tracer's own line buffer.

@@ -3,6 +3,14 @@
 #include <charconv>
 #include <cstdint>
 
+#if defined(__SSE2__) || defined(_M_X64)
+#include <emmintrin.h>
+#define ORU_CALLTEXT_SSE2 1
+#ifdef _MSC_VER
+#include <intrin.h>
+#endif
+#endif
+
 namespace Oru
 {
 namespace OGL
@@ -44,7 +52,7 @@ char* writeUnsigned(char* out, unsigned long long value)
     char digits[24];
     char* end = digits + sizeof(digits);
     char* first = value <= 0xFFFFFFFFu ? decimalDigits(end, static_cast<std::uint32_t>(value)) : decimalDigits(end, value);
-    std::memcpy(out, first, end - first);
+    copyBytes(out, first, static_cast<std::size_t>(end - first));
     return out + (end - first);
 }
 
@@ -86,7 +94,63 @@ double powerOfTen(int k)
     return kPowersOfTen[k - kLowestPower];
 }
 
+#if ORU_CALLTEXT_SSE2
+unsigned int lowestSetBit(unsigned int mask)
+{
+#ifdef _MSC_VER
+    unsigned long index;
+    _BitScanForward(&index, mask);
+    return index;
+#else
+    return static_cast<unsigned int>(__builtin_ctz(mask));
+#endif
+}
+#endif
+
 } // namespace
+
+void copyBytes(char* out, char const* in, std::size_t n)
+{
+    if (n <= 16)
+        return copyShort(out, in, n);
+    if (n > 64)
+    {
+        std::memcpy(out, in, n);
+        return;
+    }
+    // Sixteen-byte moves, the last one overlapping the one before.
+    char chunk[16];
+    for (std::size_t done = 0; done + 16 < n; done += 16)
+    {
+        std::memcpy(chunk, in + done, 16);
+        std::memcpy(out + done, chunk, 16);
+    }
+    std::memcpy(chunk, in + n - 16, 16);
+    std::memcpy(out + n - 16, chunk, 16);
+}
+
+std::size_t textLength(char const* text)
+{
+#if ORU_CALLTEXT_SSE2
+    // Aligned sixteen-byte loads: they never cross into another page, so
+    // reading a few bytes before the text or past its end is harmless.
+    const std::uintptr_t start = reinterpret_cast<std::uintptr_t>(text);
+    const __m128i zero = _mm_setzero_si128();
+    char const* block = reinterpret_cast<char const*>(start & ~static_cast<std::uintptr_t>(15));
+    unsigned int zeros = static_cast<unsigned int>(
+        _mm_movemask_epi8(_mm_cmpeq_epi8(_mm_load_si128(reinterpret_cast<__m128i const*>(block)), zero)));
+    zeros &= ~0u << (start & 15); // bytes before the text do not count
+    while (zeros == 0)
+    {
+        block += 16;
+        zeros = static_cast<unsigned int>(
+            _mm_movemask_epi8(_mm_cmpeq_epi8(_mm_load_si128(reinterpret_cast<__m128i const*>(block)), zero)));
+    }
+    return static_cast<std::size_t>(block + lowestSetBit(zeros) - text);
+#else
+    return std::strlen(text);
+#endif
+}
 
 // %.6g of a value, as printf writes it, by rounding in double arithmetic: the
 // value scaled to six digits before the point is exact to about 1e-9, so its
@@ -133,11 +197,15 @@ char* CallText::sixDigits(double value, char* out)
         digits = 100000;
         ++exponent;
     }
-    char text[6];
+    // The six digits, padded so that eight-byte moves may read past them.
+    char text[16];
     decimalDigits(text + 6, digits);
     int significant = 6;
-    while (text[significant - 1] == '0')
+    while (digits % 10 == 0)
+    {
+        digits /= 10;
         --significant;
+    }
 
     char* p = out;
     if (value < 0)
@@ -148,8 +216,8 @@ char* CallText::sixDigits(double value, char* out)
         if (significant > 1)
         {
             *p++ = '.';
-            for (int k = 1; k < significant; ++k)
-                *p++ = text[k];
+            std::memcpy(p, text + 1, 8);
+            p += significant - 1;
         }
         *p++ = 'e';
         *p++ = exponent < 0 ? '-' : '+';
@@ -161,23 +229,23 @@ char* CallText::sixDigits(double value, char* out)
     }
     else if (exponent >= 0)
     {
-        for (int k = 0; k <= exponent; ++k)
-            *p++ = text[k];
+        // All digits, then the fraction moved one place on for the point.
+        std::memcpy(p, text, 8);
         if (significant > exponent + 1)
         {
-            *p++ = '.';
-            for (int k = exponent + 1; k < significant; ++k)
-                *p++ = text[k];
+            std::memcpy(p + exponent + 2, text + exponent + 1, 8);
+            p[exponent + 1] = '.';
+            p += significant + 1;
         }
+        else
+            p += exponent + 1;
     }
     else
     {
-        *p++ = '0';
-        *p++ = '.';
-        for (int k = -1; k > exponent; --k)
-            *p++ = '0';
-        for (int k = 0; k < significant; ++k)
-            *p++ = text[k];
+        // "0.", up to three zeros, the digits.
+        std::memcpy(p, "0.000", 5);
+        std::memcpy(p + 1 - exponent, text, 8);
+        p += 1 - exponent + significant;
     }
     return p;
 }
@@ -187,7 +255,7 @@ void CallText::appendLong(char const* text, std::size_t length)
     send();
     if (length <= sizeof(buffer_))
     {
-        std::memcpy(end_, text, length);
+        copyBytes(end_, text, length);
         end_ += length;
         return;
     }
@@ -234,8 +302,10 @@ void CallText::floatBits(float value)
 
 void CallText::glFloat(float value)
 {
-    // Four pieces, one room check.
-    reserve(10 + 11 + 5 + kNumberLength + 3);
+    // Four pieces, one room check; a cached text is copied whole from or into that room.
+    const std::size_t room = 10 + 11 + 5 + kNumberLength + 3;
+    static_assert(FloatTextCache::kTextRoom <= room, "a cached float text is copied whole");
+    reserve(room);
     const std::int32_t bits = bitsOf(value);
     FloatTextCache::Entry* entry = nullptr;
     if (floats_)
@@ -243,7 +313,7 @@ void CallText::glFloat(float value)
         entry = &floats_->entries[(static_cast<std::uint32_t>(bits) * 2654435769u) >> 26];
         if (entry->length != 0 && entry->bits == static_cast<std::uint32_t>(bits))
         {
-            std::memcpy(end_, entry->text, entry->length);
+            std::memcpy(end_, entry->text, FloatTextCache::kTextRoom); // room was reserved
             end_ += entry->length;
             return;
         }
@@ -259,7 +329,7 @@ void CallText::glFloat(float value)
     {
         entry->bits = static_cast<std::uint32_t>(bits);
         entry->length = static_cast<unsigned char>(p - end_);
-        std::memcpy(entry->text, end_, entry->length);
+        std::memcpy(entry->text, end_, FloatTextCache::kTextRoom); // the buffer holds that much
     }
     end_ = p;
 }

@@ -8,6 +8,7 @@
 #include "oru_ogl/extensionator/GLTypes.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <ostream>
 
@@ -17,6 +18,41 @@ namespace OGL
 {
 namespace detail
 {
+
+/// Copies n bytes, n at most 16, without a call: the C runtime's memcpy lives
+/// in another DLL, and some runtimes (Wine's msvcrt) copy a few bytes slowly.
+/// Two overlapping fixed-size moves cover every length of a class.
+inline void copyShort(char* out, char const* in, std::size_t n)
+{
+    if (n >= 8)
+    {
+        std::uint64_t head, tail;
+        std::memcpy(&head, in, 8);
+        std::memcpy(&tail, in + n - 8, 8);
+        std::memcpy(out, &head, 8);
+        std::memcpy(out + n - 8, &tail, 8);
+    }
+    else if (n >= 4)
+    {
+        std::uint32_t head, tail;
+        std::memcpy(&head, in, 4);
+        std::memcpy(&tail, in + n - 4, 4);
+        std::memcpy(out, &head, 4);
+        std::memcpy(out + n - 4, &tail, 4);
+    }
+    else if (n > 0)
+    {
+        out[0] = in[0];
+        out[n / 2] = in[n / 2];
+        out[n - 1] = in[n - 1];
+    }
+}
+
+/// Copies n bytes; up to 64 in sixteen-byte moves, more with memcpy.
+void copyBytes(char* out, char const* in, std::size_t n);
+
+/// strlen, sixteen bytes at a time where the processor allows.
+std::size_t textLength(char const* text);
 
 /// The text of one traced or recorded call, gathered on the stack and handed to
 /// the stream with one write. Tracing and recording run on every GL call, so
@@ -39,16 +75,22 @@ public:
     template <std::size_t N>
     void put(char const (&literal)[N])
     {
-        append(literal, N - 1);
+        if (N - 1 > static_cast<std::size_t>(buffer_ + sizeof(buffer_) - end_))
+            return appendLong(literal, N - 1);
+        std::memcpy(end_, literal, N - 1); // a known size: moves, not a call
+        end_ += N - 1;
     }
     void append(char const* text, std::size_t length)
     {
         if (length > static_cast<std::size_t>(buffer_ + sizeof(buffer_) - end_))
             return appendLong(text, length);
-        std::memcpy(end_, text, length);
+        if (length <= 16)
+            copyShort(end_, text, length);
+        else
+            copyBytes(end_, text, length);
         end_ += length;
     }
-    void cString(char const* text) { append(text, std::strlen(text)); }
+    void cString(char const* text) { append(text, textLength(text)); }
 
     /// One raw byte, as a stream inserts a char (GLbyte, GLubyte).
     void character(char c)

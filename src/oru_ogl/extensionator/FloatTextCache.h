@@ -17,11 +17,13 @@ namespace detail
 struct FloatTextCache
 {
     static const unsigned int kEntries = 64;
+    /// Room for the longest text (41 characters), copied whole in fixed-size moves.
+    static const unsigned int kTextRoom = 48;
     struct Entry
     {
+        char text[kTextRoom];
         std::uint32_t bits;
         unsigned char length; // 0: empty
-        char text[43];        // the longest is 41 characters
     };
     Entry entries[kEntries];
 
