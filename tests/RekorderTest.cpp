@@ -255,6 +255,59 @@ TEST_F(RekorderTest, ConsecutiveUploadsSeekToTheirOwnBlocks)
     EXPECT_EQ(le32(12) + bytesOf(words, 12), data.str());
 }
 
+// A stream buffer with room for a few bytes that then refuses more; on its
+// first flush it notes how much another buffer held by then.
+class TinyBuffer : public std::streambuf
+{
+public:
+    explicit TinyBuffer(std::size_t room) : storage_(room) { setp(storage_.data(), storage_.data() + room); }
+    std::string written() const { return std::string(pbase(), pptr()); }
+    TinyBuffer const* watched = nullptr;
+    std::size_t heldAtFirstFlush = std::string::npos;
+
+protected:
+    int sync() override
+    {
+        if (watched && heldAtFirstFlush == std::string::npos)
+            heldAtFirstFlush = watched->written().size();
+        return 0;
+    }
+
+private:
+    std::vector<char> storage_;
+};
+
+// Block lengths follow the rules of a stream write: nothing goes into a stream
+// that has failed, a tied stream is flushed first, a refusing buffer marks
+// the stream bad.
+TEST_F(RekorderTest, BinaryBlocksKeepTheStreamsStateRules)
+{
+    const unsigned char rgba[4] = { 1, 2, 3, 4 };
+    TinyBuffer small(2);
+    std::ostream refusing(&small);
+    OpenGLRekorder first(code, refusing, &bottom, false);
+    first.cgmTexImage2D("f", 1, GL_TEXTURE_2D, 0, GL_RGBA8, 1, 1, 0, GL_RGBA, GL_UNSIGNED_BYTE, rgba);
+    EXPECT_TRUE(refusing.bad());
+    EXPECT_EQ(le32(4).substr(0, 2), small.written());
+
+    TinyBuffer roomy(64);
+    std::ostream failed(&roomy);
+    failed.setstate(std::ios_base::failbit);
+    OpenGLRekorder second(code, failed, &bottom, false);
+    second.cgmTexImage2D("f", 1, GL_TEXTURE_2D, 0, GL_RGBA8, 1, 1, 0, GL_RGBA, GL_UNSIGNED_BYTE, rgba);
+    EXPECT_EQ("", roomy.written());
+
+    TinyBuffer tiedTo(64), target(64);
+    std::ostream tie(&tiedTo), tied(&target);
+    tied.tie(&tie);
+    tiedTo.watched = &target;
+    OpenGLRekorder third(code, tied, &bottom, false);
+    third.cgmTexImage2D("f", 1, GL_TEXTURE_2D, 0, GL_RGBA8, 1, 1, 0, GL_RGBA, GL_UNSIGNED_BYTE, rgba);
+    EXPECT_EQ(0u, tiedTo.heldAtFirstFlush);
+    EXPECT_EQ(le32(4) + bytesOf(rgba, 4), target.written());
+    EXPECT_TRUE(tied.good());
+}
+
 TEST_F(RekorderTest, UploadsWithoutPixelsOrOfUnknownLayoutWriteOneLineAndStillForward)
 {
     commented.cgmTexImage2D("f", 1, GL_TEXTURE_2D, 0, GL_RGBA, 4, 4, 0, GL_RGBA, GL_UNSIGNED_BYTE, nullptr);

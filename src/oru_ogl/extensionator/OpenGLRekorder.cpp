@@ -44,6 +44,27 @@ void writeName(CallText& t, GLuint object)
     t.unsignedNumber(object);
 }
 
+// A block's length field. A full write of four or eight bytes costs more than
+// the bytes, so they go straight into the stream's buffer, as the write would
+// put them: only into a good stream, after flushing a tied one, marking the
+// stream bad if its buffer refuses them.
+template <class Length>
+void writeLength(std::ostream& out, Length length)
+{
+    // Little-endian on every Windows target, so the field is its own bytes.
+    char bytes[sizeof(length)];
+    std::memcpy(bytes, &length, sizeof(length));
+    std::streambuf* buffer = out.rdbuf();
+    if (!out.good() || out.tie() || !buffer)
+    {
+        out.write(bytes, sizeof(bytes));
+        return;
+    }
+    for (char byte : bytes)
+        if (std::streambuf::traits_type::eq_int_type(buffer->sputc(byte), std::streambuf::traits_type::eof()))
+            return out.setstate(std::ios_base::badbit);
+}
+
 } // namespace
 
 OpenGLRekorder::OpenGLRekorder(std::ostream& code, std::ostream& data, OpenGLInterceptor* next, bool lineComments)
@@ -62,15 +83,14 @@ OpenGLRekorder::~OpenGLRekorder() = default;
 
 void OpenGLRekorder::writeBlock(std::uint32_t length, void const* bytes)
 {
-    // Little-endian on every Windows target, so the field is its own bytes.
-    binaryOutputStream_->write(reinterpret_cast<char const*>(&length), sizeof(length));
+    writeLength(*binaryOutputStream_, length);
     binaryOutputStream_->write(static_cast<char const*>(bytes), length);
     binaryOffset_ += length + static_cast<std::uint32_t>(sizeof(length));
 }
 
 void OpenGLRekorder::writeLongBlock(std::uint64_t length, void const* bytes)
 {
-    binaryOutputStream_->write(reinterpret_cast<char const*>(&length), sizeof(length));
+    writeLength(*binaryOutputStream_, length);
     binaryOutputStream_->write(static_cast<char const*>(bytes), static_cast<std::streamsize>(length));
     binaryOffset_ += static_cast<std::uint32_t>(length + sizeof(length));
 }
