@@ -200,6 +200,56 @@ TEST_F(InterceptorGLTest, DecoratorsForwardToTheCheckerWithTheCallersLine)
     EXPECT_EQ(&inner, OpenGLInterceptor::Instance()->popInterceptor());
 }
 
+// ORU_GL does the checker's work in place while the checker is the whole
+// chain, and goes down the chain once a decorator is pushed: the same errors,
+// lines, results and glBegin/glEnd rules both ways.
+TEST_F(InterceptorGLTest, CallSitesBehaveAlikeWithAndWithoutDecorators)
+{
+    ASSERT_TRUE(ExtensionCatalogue::loadGL(OGL::OPEN_GL_1_5)) << ExtensionCatalogue::missingEntryPoint(OGL::OPEN_GL_1_5);
+    OruTest::ForwardingDecorator decorator;
+    for (bool decorated : { false, true })
+    {
+        SCOPED_TRACE(decorated ? "decorated" : "checker alone");
+        if (decorated)
+            gl->addInterceptor(&decorator);
+        EXPECT_EQ(decorated, OpenGLInterceptor::loneChecker() == nullptr);
+
+        const int line = __LINE__ + 1;
+        const Raised error = glError([] { ORU_GL glEnable(kNoSuchCapability); });
+        EXPECT_EQ(Raised::at("tests/InterceptorGLTest.cpp", line, gluText(GL_INVALID_ENUM), GL_INVALID_ENUM), error);
+
+        GLuint buffer = 0;
+        ORU_GL glGenBuffers(1, &buffer);
+        ORU_GL glBindBuffer(GL_ARRAY_BUFFER, buffer);
+        EXPECT_EQ(GL_TRUE, ORU_GL glIsBuffer(buffer));
+        ORU_GL glBindBuffer(GL_ARRAY_BUFFER, 0);
+        ORU_GL glDeleteBuffers(1, &buffer);
+
+        const PFN_cgmIsBuffer saved = _cgmIsBuffer;
+        _cgmIsBuffer = nullptr;
+        const int unloadedLine = __LINE__ + 1;
+        const Raised unloaded = raisedBy([] { ORU_GL glIsBuffer(1); });
+        _cgmIsBuffer = saved;
+        EXPECT_EQ(0u, unloaded.message.rfind("glIsBuffer is not loaded", 0)) << unloaded;
+        EXPECT_EQ(Raised::at("tests/InterceptorGLTest.cpp", unloadedLine, unloaded.message), unloaded);
+
+        EXPECT_NO_THROW({
+            ORU_GL glBegin(GL_POINTS);
+            ORU_GL glColor4f(1.0f, 0.5f, 0.25f, 1.0f); // no glGetError inside the pair
+            ORU_GL glVertex2f(0.0f, 0.0f);
+            ORU_GL glEnd();
+        });
+
+        if (decorated)
+        {
+            EXPECT_EQ(11u, decorator.calls);
+            EXPECT_EQ(&decorator, gl->popInterceptor());
+        }
+    }
+    const OpenGLInterceptor* lone = OpenGLInterceptor::loneChecker();
+    EXPECT_EQ(OpenGLInterceptor::Instance(), lone);
+}
+
 // Every advertised extension that the catalogue knows loads, or stops exactly
 // at an entry point the driver lacks, with the earlier ones set; returns how
 // many were known and how many loaded.

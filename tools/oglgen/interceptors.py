@@ -103,24 +103,53 @@ def error_checker_chunk(ops):
     return "".join(out)
 
 
+def checked_call(f, checker):
+    """The error checker's work for one operation as C++ statements, at a call
+    site whose file and line are file_ and line_."""
+    out = []
+    if f.owner is None:
+        callee = "::" + f.name
+    else:
+        callee = f.pointer
+        out.append('if (!%s)' % f.pointer)
+        out.append('    OpenGLErrorChecker::raiseNotLoaded(file_, line_, "%s");' % f.name)
+    call = "%s(%s)" % (callee, f.argument_list())
+    if f.returns_value:
+        out += ["%s result = %s;" % (f.ret, call), "%s->checkError(file_, line_);" % checker, "return result;"]
+    else:
+        out += ["%s;" % call, "%s->checkError(file_, line_);" % checker]
+    return out
+
+
 def call_site_header(c):
     guard = "ORU_OGL_EXTENSIONATOR_GLCALL_H"
     out = [banner(cat.SOURCE), "#ifndef %s\n#define %s\n\n" % (guard, guard),
            "/// \\file\n/// ORU_GL: GL calls written as such and checked through the interception chain.\n\n",
-           '#include "oru_ogl/extensionator/OpenGLInterceptor.h"\n\n',
+           '#include "oru_ogl/extensionator/OpenGLErrorChecker.h"\n',
+           '#include "oru_ogl/extensionator/EntryPoints.h"\n\n',
            "namespace Oru\n{\nnamespace OGL\n{\n\n",
            "/// One GL call made through the current interceptor, carrying the caller's\n",
            "/// file and line. Written through ORU_GL, so that a checked call reads like\n",
            "/// the call it replaces:  ORU_GL glTexParameteri(GL_TEXTURE_2D, pname, value);\n",
+           "/// While the chain is the error checker alone, the checker's work is done\n",
+           "/// in place, without the virtual call; with decorators pushed, the call\n",
+           "/// goes down the chain.\n",
            "class CallSite\n{\npublic:\n",
            "    /// The call site: the caller's file and line.\n",
            "    CallSite(char const* file, unsigned int line) : file_(file), line_(line) {}\n\n"]
+    through_chain = HAND_WRITTEN["OpenGLErrorChecker"]
     for f in c.operations():
         ret = f.ret if f.ret.endswith("*") else f.ret + " "
         args = "file_, line_" + (", " + f.argument_list() if f.params else "")
-        body = "%sOpenGLInterceptor::Instance()->%s(%s);" % ("return " if f.returns_value else "", f.operation, args)
+        chain = "%sOpenGLInterceptor::Instance()->%s(%s);" % ("return " if f.returns_value else "", f.operation, args)
         out.append("    /// %s through the interception chain, from this call site.\n" % f.name)
-        out.append("    %s%s(%s) const { %s }\n" % (ret, f.name, f.parameter_list(), body))
+        if f.name in through_chain:
+            out.append("    %s%s(%s) const { %s }\n" % (ret, f.name, f.parameter_list(), chain))
+            continue
+        out.append("    %s%s(%s) const\n    {\n" % (ret, f.name, f.parameter_list()))
+        out.append("        if (OpenGLErrorChecker* checker = OpenGLInterceptor::loneChecker())\n")
+        out.append("        {\n%s        }\n" % "".join("            %s\n" % line for line in checked_call(f, "checker")))
+        out.append("        else\n            %s\n    }\n" % chain)
     out.append("\nprivate:\n    char const* file_;\n    unsigned int line_;\n};\n\n")
     out.append("} // namespace OGL\n} // namespace Oru\n\n")
     out.append("/// Prefix for a GL call checked through the interception chain.\n")

@@ -25,7 +25,8 @@ public:
 
     virtual ~OpenGLErrorChecker();
 
-private:
+    /// The check after each call: throws ExceptionOGL for a pending GL error,
+    /// unless a glBegin/glEnd pair is open.
     void checkError(char const* file, unsigned int line) const
     {
         if (inBeginEnd_)
@@ -35,11 +36,19 @@ private:
             raiseGLError(file, line, error);
     }
 
-    [[noreturn]] static void raiseGLError(char const* file, unsigned int line, GLenum error);
+    /// Throws InternalException for a call through an entry point that was never loaded.
     [[noreturn]] static void raiseNotLoaded(char const* file, unsigned int line, char const* function);
+
+private:
+    [[noreturn]] static void raiseGLError(char const* file, unsigned int line, GLenum error);
 
     bool inBeginEnd_;
 };
+
+inline OpenGLErrorChecker* OpenGLInterceptor::loneChecker()
+{
+    return gInterceptor == gDefaultChecker ? gDefaultChecker : nullptr;
+}
 
 } // namespace OGL
 } // namespace Oru

@@ -14,6 +14,8 @@ namespace OGL
 // The top of the chain, one per process. Like the GL context it serves, the
 // chain belongs to one thread at a time; nothing here is locked.
 OpenGLInterceptor* OpenGLInterceptor::gInterceptor = nullptr;
+// The bottom of the default chain, while there is one.
+OpenGLErrorChecker* OpenGLInterceptor::gDefaultChecker = nullptr;
 
 OpenGLInterceptor::OpenGLInterceptor() = default;
 
@@ -22,7 +24,8 @@ OpenGLInterceptor::~OpenGLInterceptor() = default;
 OpenGLInterceptor* OpenGLInterceptor::createDefaultChain()
 {
     // A failed allocation leaves the chain empty and is reported as null.
-    gInterceptor = new (std::nothrow) OpenGLErrorChecker();
+    gDefaultChecker = new (std::nothrow) OpenGLErrorChecker();
+    gInterceptor = gDefaultChecker;
     return gInterceptor;
 }
 
@@ -59,6 +62,7 @@ void OpenGLInterceptor::destroy()
     ORU_ENFORCE(dynamic_cast<OpenGLErrorChecker *>(gInterceptor) != NULL);
     delete gInterceptor;
     gInterceptor = nullptr;
+    gDefaultChecker = nullptr;
 }
 
 } // namespace OGL

@@ -9,6 +9,7 @@ namespace Oru
 namespace OGL
 {
 
+class OpenGLErrorChecker;
 class OpenGLInterceptorDecorator;
 
 /// The GL interception chain: one operation per GL entry point, named cgm plus
@@ -30,6 +31,11 @@ public:
     {
         return gInterceptor ? gInterceptor : createDefaultChain();
     }
+
+    /// The error checker when it is the whole chain (no decorator pushed), else
+    /// null. Call sites use it to do the checker's work without a virtual call
+    /// (defined inline in OpenGLErrorChecker.h).
+    static OpenGLErrorChecker* loneChecker();
 
     /// Deletes the default error checker. Every decorator must have been popped.
     static void destroy();
@@ -58,6 +64,7 @@ private:
     static OpenGLInterceptor* createDefaultChain();
 
     static OpenGLInterceptor* gInterceptor;
+    static OpenGLErrorChecker* gDefaultChecker;
 };
 
 } // namespace OGL
