@@ -68,6 +68,10 @@ class Function:
         return any(p.is_pointer for p in self.params)
 
 
+# The library's name index keeps a name's length in six bits.
+MAX_NAME_LENGTH = 63
+
+
 class Extension:
     def __init__(self, ident, name):
         self.id = ident
@@ -159,6 +163,9 @@ def load(catalogue_dir):
                 prefix = "WGL_" if ident >= FIRST_WGL_ID else "GL_"
                 if not fields[1].startswith(prefix):
                     raise SystemExit("%s: id %d must be named %s..." % (where, ident, prefix))
+                if len(fields[1]) > MAX_NAME_LENGTH:
+                    raise SystemExit("%s: %s is longer than the name index takes (%d characters)"
+                                     % (where, fields[1], MAX_NAME_LENGTH))
                 current = Extension(ident, fields[1])
                 extensions.append(current)
                 continue

@@ -19,7 +19,9 @@ ExtensionCatalogue::ProcAddressResolver gResolver = &wglGetProcAddress;
 // name once and compares it with the one entry whose hash and length match
 // (rarely two), where a search by comparison would compare it with a dozen
 // names sharing long prefixes. Start-up looks up every name the driver
-// advertises, hundreds of them.
+// advertises, hundreds of them, between the driver's own look-ups: the slots
+// are four bytes, so that the table takes few cache lines.
+template <unsigned int Slots>
 class NameIndex
 {
 public:
@@ -32,10 +34,9 @@ public:
             const std::size_t length = std::strlen(names[i].name);
             const std::uint64_t h = hash(names[i].name, length);
             unsigned int slot = static_cast<unsigned int>(h) & kMask;
-            while (slots_[slot].entry != 0)
+            while (slots_[slot] != 0)
                 slot = (slot + 1) & kMask;
-            slots_[slot] = Slot{ static_cast<std::uint32_t>(h >> 32), static_cast<std::uint16_t>(i + 1),
-                                 static_cast<std::uint16_t>(length) };
+            slots_[slot] = pack(check(h), i + 1, static_cast<unsigned int>(length));
         }
     }
 
@@ -47,27 +48,36 @@ public:
 
     teExtension find(char const* name, std::size_t length) const
     {
-        if (!name)
+        if (!name || length > kLongest)
             return UNKNOWN_EXTENSION;
         const std::uint64_t h = hash(name, length);
-        const std::uint32_t check = static_cast<std::uint32_t>(h >> 32);
-        for (unsigned int slot = static_cast<unsigned int>(h) & kMask; slots_[slot].entry != 0; slot = (slot + 1) & kMask)
+        // What a matching slot holds, but for its entry.
+        const std::uint32_t wanted = pack(check(h), 0, static_cast<unsigned int>(length));
+        for (unsigned int slot = static_cast<unsigned int>(h) & kMask; slots_[slot] != 0; slot = (slot + 1) & kMask)
         {
-            Slot const& s = slots_[slot];
+            const std::uint32_t s = slots_[slot];
+            if ((s & ~kEntryBits) != wanted)
+                continue;
             // The stored length equals the entry's strlen, so a match is whole.
-            if (s.check == check && s.length == length && equal(names_[s.entry - 1].name, name, length))
-                return names_[s.entry - 1].id;
+            catalogue::NamedId const& entry = names_[((s & kEntryBits) >> kLengthBits) - 1];
+            if (equal(entry.name, name, length))
+                return entry.id;
         }
         return UNKNOWN_EXTENSION;
     }
 
 private:
-    struct Slot
+    // A slot: 16 bits of the hash's upper half, the index + 1 in the list
+    // (0 for a free slot), the length.
+    static const unsigned int kLengthBits = 6;
+    static const unsigned int kLongest = (1u << kLengthBits) - 1;
+    static const std::uint32_t kEntryBits = 0x3FFu << kLengthBits;
+
+    static std::uint32_t check(std::uint64_t h) { return static_cast<std::uint32_t>(h >> 48); }
+    static std::uint32_t pack(std::uint32_t check, unsigned int entry, unsigned int length)
     {
-        std::uint32_t check;  // the hash's upper half
-        std::uint16_t entry;  // index + 1 in the list, 0 for a free slot
-        std::uint16_t length;
-    };
+        return check << 16 | entry << kLengthBits | length;
+    }
 
     static std::uint64_t load(char const* p)
     {
@@ -95,26 +105,31 @@ private:
         return h ^ (h >> 29);
     }
 
+    // Eight bytes at a time, the last eight overlapping the ones before.
     static bool equal(char const* a, char const* b, std::size_t length)
     {
-        std::size_t i = 0;
-        for (; i + 8 <= length; i += 8)
+        if (length < 8)
+            return std::memcmp(a, b, length) == 0;
+        for (std::size_t i = 0; i + 8 < length; i += 8)
             if (load(a + i) != load(b + i))
                 return false;
-        for (; i < length; ++i)
-            if (a[i] != b[i])
-                return false;
-        return true;
+        return load(a + length - 8) == load(b + length - 8);
     }
 
-    static const unsigned int kSlots = 1024; // a power of two, over three times the names of either list
-    static const unsigned int kMask = kSlots - 1;
-    static_assert(catalogue::kGLNameCount * 3 < kSlots && catalogue::kWGLNameCount * 3 < kSlots,
-                  "the name index needs more slots");
+    static const unsigned int kMask = Slots - 1;
+    static_assert((Slots & kMask) == 0, "the slot count is a power of two");
 
     catalogue::NamedId const* names_;
-    Slot slots_[kSlots];
+    std::uint32_t slots_[Slots];
 };
+
+// Over three times the names of each list, and room in a slot for their number
+// and lengths (the generator refuses longer names).
+typedef NameIndex<1024> GLNameIndex;
+typedef NameIndex<128> WGLNameIndex;
+static_assert(catalogue::kGLNameCount * 3 < 1024 && catalogue::kWGLNameCount * 3 < 128,
+              "a name index needs more slots");
+static_assert(catalogue::kGLNameCount < 0x3FF && catalogue::kWGLNameCount < 0x3FF, "a slot numbers up to 1022 names");
 
 catalogue::ExtensionRow const* row(teExtension id)
 {
@@ -153,15 +168,15 @@ bool fetchAll(EntryPoint const* entryPoints, unsigned int count)
 
 } // namespace catalogue
 
-NameIndex const& glIndex()
+GLNameIndex const& glIndex()
 {
-    static const NameIndex index(catalogue::kGLNames, catalogue::kGLNameCount);
+    static const GLNameIndex index(catalogue::kGLNames, catalogue::kGLNameCount);
     return index;
 }
 
-NameIndex const& wglIndex()
+WGLNameIndex const& wglIndex()
 {
-    static const NameIndex index(catalogue::kWGLNames, catalogue::kWGLNameCount);
+    static const WGLNameIndex index(catalogue::kWGLNames, catalogue::kWGLNameCount);
     return index;
 }
 

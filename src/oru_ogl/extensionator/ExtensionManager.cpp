@@ -457,32 +457,30 @@ void markIfLoaded(teExtension id, std::vector<bool>& supported)
 
 // The first blank or terminator at or after p. Sixteen bytes at a time: the
 // extension string runs to thousands of characters. The loads are aligned, so
-// none reaches into a page the string does not touch.
+// none reaches into a page the string does not touch; bytes before p in the
+// first block are masked off.
 char const* nameEnd(char const* p)
 {
-    for (; reinterpret_cast<std::size_t>(p) % 16 != 0; ++p)
-    {
-        if (*p == ' ' || *p == '\0')
-            return p;
-    }
     const __m128i blank = _mm_set1_epi8(' ');
     const __m128i zero = _mm_setzero_si128();
-    for (;; p += 16)
+    const unsigned int skip = static_cast<unsigned int>(reinterpret_cast<std::size_t>(p) % 16);
+    char const* block = p - skip;
+    unsigned int hits = 0;
+    for (unsigned int mask = ~0u << skip;; block += 16, mask = ~0u)
     {
-        const __m128i bytes = _mm_load_si128(reinterpret_cast<__m128i const*>(p));
-        const unsigned int hits = static_cast<unsigned int>(
-            _mm_movemask_epi8(_mm_or_si128(_mm_cmpeq_epi8(bytes, blank), _mm_cmpeq_epi8(bytes, zero))));
+        const __m128i bytes = _mm_load_si128(reinterpret_cast<__m128i const*>(block));
+        hits = mask & static_cast<unsigned int>(_mm_movemask_epi8(
+                          _mm_or_si128(_mm_cmpeq_epi8(bytes, blank), _mm_cmpeq_epi8(bytes, zero))));
         if (hits != 0)
-        {
-#if defined(_MSC_VER)
-            unsigned long first;
-            _BitScanForward(&first, hits);
-            return p + first;
-#else
-            return p + __builtin_ctz(hits);
-#endif
-        }
+            break;
     }
+#if defined(_MSC_VER)
+    unsigned long first;
+    _BitScanForward(&first, hits);
+    return block + first;
+#else
+    return block + __builtin_ctz(hits);
+#endif
 }
 
 // Calls f(name, length) for each name of the text, split as

@@ -53,12 +53,9 @@ void OpenGLInterceptor::destroy()
     if (!gInterceptor)
         return;
 
-    // The checker is the only interceptor the layer itself owns; anything else
-    // on top means a decorator was not popped. Checked by dynamic type, since a
-    // client may derive its own bottom interceptor only through the decorator
-    // base, which is refused here as well. On refusal nothing is deleted and
-    // the chain stays as it was.
-
+    // Only the checker is the layer's own: anything else on top is a decorator
+    // not popped (a client's own bottom interceptor can only derive from the
+    // decorator base, refused as well), and then nothing is deleted.
     ORU_ENFORCE(dynamic_cast<OpenGLErrorChecker *>(gInterceptor) != NULL);
     delete gInterceptor;
     gInterceptor = nullptr;
