@@ -8,6 +8,7 @@
 
 #include "support/Raises.h"
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -97,6 +98,30 @@ TEST(StartupTest, ExtensionStringsSplitOnBlanksOnly)
     EXPECT_EQ((std::vector<std::string>{ "GL_A\tGL_B" }), Access::split("GL_A\tGL_B"));
     EXPECT_TRUE(Access::split("").empty());
     EXPECT_TRUE(Access::split("   ").empty());
+
+    // The splitter reads sixteen bytes at a time: names and runs of blanks of
+    // every length, across block boundaries, at every alignment of the text.
+    std::uint32_t state = 7;
+    auto next = [&state] { return (state = state * 1664525u + 1013904223u) >> 8; };
+    for (int round = 0; round < 3000; ++round)
+    {
+        std::string text;
+        std::vector<std::string> expected;
+        const unsigned int pieces = next() % 12;
+        for (unsigned int k = 0; k < pieces; ++k)
+        {
+            text.append(next() % 4 == 0 ? 1 + next() % 20 : 1, ' ');
+            std::string name;
+            for (unsigned int n = 1 + next() % 40; n > 0; --n)
+                name += static_cast<char>('A' + next() % 60); // letters, digits-like and '_', '\t', never a blank
+            expected.push_back(name);
+            text += name;
+        }
+        text.append(next() % 3, ' ');
+        const std::string padded = std::string(round % 16, '#') + text;
+        std::vector<std::string> tokens = Access::split(padded.substr(round % 16));
+        ASSERT_EQ(expected, tokens) << '"' << text << '"';
+    }
 }
 
 // "ATI" in capitals anywhere, even inside a word, wins; the match is case-sensitive.

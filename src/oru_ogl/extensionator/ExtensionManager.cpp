@@ -336,6 +336,59 @@ unsigned int parsePlainNumber(std::string const& piece)
     return value;
 }
 
+unsigned int lowestBit(unsigned int mask)
+{
+#if defined(_MSC_VER)
+    unsigned long index;
+    _BitScanForward(&index, mask);
+    return index;
+#else
+    return static_cast<unsigned int>(__builtin_ctz(mask));
+#endif
+}
+
+// Calls f(name, length) for each name of the text, without copying the text
+// or making a string per name: start-up goes through hundreds of names in
+// thousands of characters. Sixteen bytes at a time, with a bit per byte: a name starts at a
+// byte that follows a separator (blank or terminator) and ends at a separator
+// that follows a name's byte. The loads are aligned, so none reaches into a
+// page the text does not touch; bytes before the text count as blanks.
+template <class Function>
+void forEachName(char const* text, Function f)
+{
+    const __m128i blank = _mm_set1_epi8(' ');
+    const __m128i zero = _mm_setzero_si128();
+    const unsigned int skip = static_cast<unsigned int>(reinterpret_cast<std::size_t>(text) % 16);
+    char const* block = text - skip;
+    unsigned int outside = (1u << skip) - 1; // bytes of the first block before the text
+    unsigned int separatorBefore = 1;        // the byte before the block
+    char const* name = nullptr;
+    for (;; block += 16, outside = 0)
+    {
+        const __m128i bytes = _mm_load_si128(reinterpret_cast<__m128i const*>(block));
+        const unsigned int zeros = static_cast<unsigned int>(_mm_movemask_epi8(_mm_cmpeq_epi8(bytes, zero))) & ~outside;
+        const unsigned int separators =
+            static_cast<unsigned int>(_mm_movemask_epi8(_mm_cmpeq_epi8(bytes, blank))) | zeros | outside;
+        const unsigned int shifted = (separators << 1 | separatorBefore) & 0xFFFF;
+        // Up to and including the terminator, if the block holds it.
+        const unsigned int upTo = zeros ? ((zeros & (0u - zeros)) << 1) - 1 : 0xFFFF;
+        const unsigned int starts = ~separators & shifted & upTo;
+        unsigned int bounds = (starts | (separators & ~shifted)) & upTo;
+        while (bounds != 0)
+        {
+            const unsigned int at = lowestBit(bounds);
+            if (starts & (1u << at))
+                name = block + at;
+            else
+                f(name, static_cast<std::size_t>(block + at - name));
+            bounds &= bounds - 1;
+        }
+        if (zeros)
+            return;
+        separatorBefore = separators >> 15;
+    }
+}
+
 } // namespace
 
 // "<major>.<minor>[.<release>][ <additional info>]". What drivers report, and
@@ -408,17 +461,12 @@ void ExtensionManager::TokenizeVersionString(std::string const& version, unsigne
 
 // Names separated by single blanks; runs of blanks and a trailing blank give no
 // empty names. Only the blank separates: drivers put nothing else between
-// names, and a name never contains one.
+// names, and a name never contains one. The text ends at its first zero, as
+// the driver's string does.
 void ExtensionManager::TokenizeExtensionString(std::string const& extensions, std::vector<std::string>& tokens)
 {
-    std::string::size_type start = extensions.find_first_not_of(' ', 0);
-    std::string::size_type end = extensions.find(' ', start);
-    while (start != std::string::npos || end != std::string::npos)
-    {
-        tokens.push_back(extensions.substr(start, end == std::string::npos ? std::string::npos : end - start));
-        start = extensions.find_first_not_of(' ', end);
-        end = extensions.find(' ', start);
-    }
+    forEachName(extensions.c_str(),
+                [&tokens](char const* name, std::size_t length) { tokens.push_back(std::string(name, length)); });
 }
 
 // Case-sensitive, ATI first: "ATI Technologies Inc." and any vendor string with
@@ -453,53 +501,6 @@ void markIfLoaded(teExtension id, std::vector<bool>& supported)
 {
     if (ExtensionCatalogue::loadGL(id))
         supported[id] = true;
-}
-
-// The first blank or terminator at or after p. Sixteen bytes at a time: the
-// extension string runs to thousands of characters. The loads are aligned, so
-// none reaches into a page the string does not touch; bytes before p in the
-// first block are masked off.
-char const* nameEnd(char const* p)
-{
-    const __m128i blank = _mm_set1_epi8(' ');
-    const __m128i zero = _mm_setzero_si128();
-    const unsigned int skip = static_cast<unsigned int>(reinterpret_cast<std::size_t>(p) % 16);
-    char const* block = p - skip;
-    unsigned int hits = 0;
-    for (unsigned int mask = ~0u << skip;; block += 16, mask = ~0u)
-    {
-        const __m128i bytes = _mm_load_si128(reinterpret_cast<__m128i const*>(block));
-        hits = mask & static_cast<unsigned int>(_mm_movemask_epi8(
-                          _mm_or_si128(_mm_cmpeq_epi8(bytes, blank), _mm_cmpeq_epi8(bytes, zero))));
-        if (hits != 0)
-            break;
-    }
-#if defined(_MSC_VER)
-    unsigned long first;
-    _BitScanForward(&first, hits);
-    return block + first;
-#else
-    return block + __builtin_ctz(hits);
-#endif
-}
-
-// Calls f(name, length) for each name of the text, split as
-// TokenizeExtensionString splits, without copying the text or making a string
-// per name: start-up goes through hundreds of names.
-template <class Function>
-void forEachName(char const* text, Function f)
-{
-    char const* p = text;
-    for (;;)
-    {
-        while (*p == ' ')
-            ++p;
-        if (*p == '\0')
-            return;
-        char const* const name = p;
-        p = nameEnd(p);
-        f(name, static_cast<std::size_t>(p - name));
-    }
 }
 
 } // namespace
