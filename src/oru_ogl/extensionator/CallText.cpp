@@ -1,14 +1,13 @@
 #include "oru_ogl/extensionator/CallText.h"
 
+#include "oru_ogl/extensionator/Bits.h"
+
 #include <charconv>
 #include <cstdint>
 
 #if defined(__SSE2__) || defined(_M_X64)
 #include <emmintrin.h>
 #define ORU_CALLTEXT_SSE2 1
-#ifdef _MSC_VER
-#include <intrin.h>
-#endif
 #endif
 
 namespace Oru
@@ -93,19 +92,6 @@ double powerOfTen(int k)
 {
     return kPowersOfTen[k - kLowestPower];
 }
-
-#if ORU_CALLTEXT_SSE2
-unsigned int lowestSetBit(unsigned int mask)
-{
-#ifdef _MSC_VER
-    unsigned long index;
-    _BitScanForward(&index, mask);
-    return index;
-#else
-    return static_cast<unsigned int>(__builtin_ctz(mask));
-#endif
-}
-#endif
 
 } // namespace
 

@@ -29,14 +29,14 @@
 // must not be traced or recorded as if the client had made those calls.
 
 #include "oru_ogl/extensionator/ExtensionManager.h"
-
 #include "oru_ogl/Enforce.h"
+#include "oru_ogl/extensionator/Bits.h"
 #include "oru_ogl/extensionator/ExtensionCatalogue.h"
 #include "oru_ogl/extensionator/windows/WglEntryPoints.h"
 #include "oru_ogl/ogl/Context.h"
 
 #include <GL/gl.h>
-#include <intrin.h> // SSE2 (every x86-64 processor has it) and bit scans, with MinGW and MSVC
+#include <emmintrin.h> // SSE2: every x86-64 processor has it
 #include <sstream>
 
 namespace Oru
@@ -336,17 +336,6 @@ unsigned int parsePlainNumber(std::string const& piece)
     return value;
 }
 
-unsigned int lowestBit(unsigned int mask)
-{
-#if defined(_MSC_VER)
-    unsigned long index;
-    _BitScanForward(&index, mask);
-    return index;
-#else
-    return static_cast<unsigned int>(__builtin_ctz(mask));
-#endif
-}
-
 // Calls f(name, length) for each name of the text, without copying the text
 // or making a string per name: start-up goes through hundreds of names in
 // thousands of characters. Sixteen bytes at a time, with a bit per byte: a name starts at a
@@ -376,7 +365,7 @@ void forEachName(char const* text, Function f)
         unsigned int bounds = (starts | (separators & ~shifted)) & upTo;
         while (bounds != 0)
         {
-            const unsigned int at = lowestBit(bounds);
+            const unsigned int at = detail::lowestSetBit(bounds);
             if (starts & (1u << at))
                 name = block + at;
             else
