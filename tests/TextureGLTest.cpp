@@ -31,6 +31,7 @@ using Oru::OGL::Texture3D;
 using Oru::OGL::TextureRECT;
 using Oru::OGL::TextureState;
 using Oru::OGL::TextureUnit;
+using OruTest::expectRefusals;
 using OruTest::raises;
 using F = Oru::OGL::Texture::Format;
 
@@ -40,7 +41,6 @@ namespace
 const char* const kTexture2 = "ogl/Texture2.cpp";
 const GLenum kUnpackBinding = 0x88EF;
 const GLenum kPackBinding = 0x88ED;
-const GLenum kTextureBinding3D = 0x806A;
 
 typedef std::vector<unsigned char> Bytes;
 
@@ -51,30 +51,17 @@ GLint integer(GLenum name)
     return value;
 }
 
-// What a transfer must leave as it found it.
-struct CallerState
+// What a transfer must leave as it found it: every pixel-store mode, the
+// buffer and texture bindings and the active unit.
+std::vector<GLint> callerState()
 {
-    std::vector<GLint> values;
-
-    static CallerState capture()
-    {
-        CallerState state;
-        for (int mode = Texture::PACK_SWAP_BYTES; mode <= Texture::UNPACK_ALIGNMENT; ++mode)
-            state.values.push_back(integer(Texture::PixelStoreMode2GL(static_cast<Texture::PixelStoreMode>(mode))));
-        for (GLenum binding : { kUnpackBinding, kPackBinding, GLenum(GL_TEXTURE_BINDING_1D),
-                                GLenum(GL_TEXTURE_BINDING_2D), kTextureBinding3D, GLenum(0x84E0) /* active unit */ })
-            state.values.push_back(integer(binding));
-        return state;
-    }
-
-    bool operator==(CallerState const& other) const { return values == other.values; }
-};
-
-std::ostream& operator<<(std::ostream& out, CallerState const& state)
-{
-    for (GLint v : state.values)
-        out << v << ' ';
-    return out;
+    std::vector<GLint> state;
+    for (int mode = Texture::PACK_SWAP_BYTES; mode <= Texture::UNPACK_ALIGNMENT; ++mode)
+        state.push_back(integer(Texture::PixelStoreMode2GL(static_cast<Texture::PixelStoreMode>(mode))));
+    for (GLenum binding : { kUnpackBinding, kPackBinding, GLenum(GL_TEXTURE_BINDING_1D), GLenum(GL_TEXTURE_BINDING_2D),
+                            GLenum(0x806A) /* 3D */, GLenum(0x84E0) /* active unit */ })
+        state.push_back(integer(binding));
+    return state;
 }
 
 Bytes pattern(std::size_t size, unsigned int seed)
@@ -270,11 +257,11 @@ Bytes texels(FormatCase const& f, std::size_t pixels, unsigned int seed)
 
 } // namespace
 
-TEST_F(TextureGLTest, SubImageFromMemoryReadsBackIdenticallyInEveryLayout)
+TEST_F(TextureGLTest, EveryFormatReadsBackIdenticallyInEveryLayoutAndThroughPixelBuffers)
 {
     if (!ExtensionManager::Instance()->supportsFloatingPointTextures())
         GTEST_SKIP() << "no float textures on this driver";
-    const std::size_t W = 8, H = 4;
+    const std::size_t W = 8, H = 4, offset = 24;
     for (FormatCase const& f : kFormats)
     {
         SCOPED_TRACE(TokenName(Texture::InternalFormat2GL(f.internalFormat)));
@@ -314,6 +301,26 @@ TEST_F(TextureGLTest, SubImageFromMemoryReadsBackIdenticallyInEveryLayout)
         texture.getPixelData(padded.data(), 0, f.format, f.type, 8);
         for (std::size_t y = 0; y < H; ++y)
             EXPECT_EQ(0, std::memcmp(&padded[y * paddedRow], &expected[y * row], row)) << "row " << y;
+
+        // Pixel buffers at an offset, in both directions.
+        const Bytes other = texels(f, W * H, 3);
+        Bytes staged(offset, 0xEE);
+        staged.insert(staged.end(), other.begin(), other.end());
+        Buffer unpackBuffer(static_cast<long long>(staged.size()), Buffer::eUnpack, Buffer::eStreamDraw,
+                            staged.data());
+        texture.subImage(0, 0, 0, W, H, f.format, f.type, &unpackBuffer, offset, PixelUnpackParameters());
+        texture.getPixelData(back.data(), 0, f.format, f.type, 1);
+        EXPECT_EQ(other, back) << "uploaded from the buffer";
+
+        Buffer packBuffer(static_cast<long long>(offset + other.size()), Buffer::eUnpack, Buffer::eStreamRead,
+                          nullptr);
+        ASSERT_TRUE(packBuffer.isPackBuffer());
+        texture.getPixelData(&packBuffer, offset, 0, f.format, f.type, 1);
+        packBuffer.bind();
+        Bytes fromBuffer(other.size(), 0xCD);
+        packBuffer.getSubData(offset, static_cast<long long>(fromBuffer.size()), fromBuffer.data());
+        Buffer::bindDefaultPackBuffer();
+        EXPECT_EQ(other, fromBuffer) << "read back into the buffer";
     }
 }
 
@@ -331,39 +338,6 @@ TEST_F(TextureGLTest, SwappedBytesUploadAsTheNativeValues)
     unsigned short back[8] = {};
     texture.getPixelData(back, 0, F::LUMINANCE, Texture::UNSIGNED_SHORT, 2);
     EXPECT_EQ(0, std::memcmp(values, back, sizeof(values)));
-}
-
-TEST_F(TextureGLTest, PixelBuffersAtAnOffsetInBothDirections)
-{
-    if (!ExtensionManager::Instance()->supportsFloatingPointTextures())
-        GTEST_SKIP() << "no float textures on this driver";
-    const std::size_t W = 4, H = 4, offset = 24;
-    for (FormatCase const& f : kFormats)
-    {
-        SCOPED_TRACE(TokenName(Texture::InternalFormat2GL(f.internalFormat)));
-        Texture2D texture(f.internalFormat, W, H, false);
-        TextureUnit::Unit(0)->bind(&texture);
-        const Bytes image = texels(f, W * H, 3);
-        Bytes staged(offset, 0xEE);
-        staged.insert(staged.end(), image.begin(), image.end());
-        Buffer unpackBuffer(static_cast<long long>(staged.size()), Buffer::eUnpack, Buffer::eStreamDraw,
-                            staged.data());
-        texture.subImage(0, 0, 0, W, H, f.format, f.type, &unpackBuffer, offset, PixelUnpackParameters());
-
-        Bytes back(image.size(), 0xCD);
-        texture.getPixelData(back.data(), 0, f.format, f.type, 1);
-        EXPECT_EQ(image, back) << "uploaded from the buffer";
-
-        Buffer packBuffer(static_cast<long long>(offset + image.size()), Buffer::eUnpack, Buffer::eStreamRead,
-                          nullptr);
-        ASSERT_TRUE(packBuffer.isPackBuffer());
-        texture.getPixelData(&packBuffer, offset, 0, f.format, f.type, 1);
-        packBuffer.bind();
-        Bytes fromBuffer(image.size(), 0xCD);
-        packBuffer.getSubData(offset, static_cast<long long>(fromBuffer.size()), fromBuffer.data());
-        Buffer::bindDefaultPackBuffer();
-        EXPECT_EQ(image, fromBuffer) << "read back into the buffer";
-    }
 }
 
 TEST_F(TextureGLTest, BuffersOfAnotherRoleAreConvertedForTheTransfer)
@@ -458,58 +432,58 @@ TEST_F(TextureGLTest, TransfersLeaveTheCallersStateAsTheyFoundIt)
 
     TextureUnit::Unit(0)->bind(&texture);
     setCallerState(true);
-    const CallerState before = CallerState::capture();
+    const std::vector<GLint> before = callerState();
 
     texture.subImage(0, 0, 0, 4, 4, F::RGBA, Texture::UNSIGNED_BYTE, image.data(), layout);
-    EXPECT_EQ(before, CallerState::capture()) << "upload from memory";
+    EXPECT_EQ(before, callerState()) << "upload from memory";
     texture.subImage(0, 0, 0, 4, 4, F::RGBA, Texture::UNSIGNED_BYTE, &buffer, 0, layout);
-    EXPECT_EQ(before, CallerState::capture()) << "upload from a buffer";
+    EXPECT_EQ(before, callerState()) << "upload from a buffer";
     texture.getPixelData(back.data(), 0, F::RGBA, Texture::UNSIGNED_BYTE, 1);
-    EXPECT_EQ(before, CallerState::capture()) << "read-back into memory";
+    EXPECT_EQ(before, callerState()) << "read-back into memory";
     texture.getPixelData(&buffer, 0, 0, F::RGBA, Texture::UNSIGNED_BYTE, 2);
-    EXPECT_EQ(before, CallerState::capture()) << "read-back into a buffer";
+    EXPECT_EQ(before, callerState()) << "read-back into a buffer";
 
     // Refusals after the push: a bad alignment found by apply(), and buffers
     // that cannot change role while bound.
     const std::string applyText = "Enum value not recognized";
     EXPECT_TRUE(raises([&] { texture.subImage(0, 0, 0, 4, 4, F::RGBA, Texture::UNSIGNED_BYTE, image.data(), broken); },
                        "ogl/PixelUnpackParameters.cpp", 216, applyText));
-    EXPECT_EQ(before, CallerState::capture()) << "refused upload from memory";
+    EXPECT_EQ(before, callerState()) << "refused upload from memory";
     EXPECT_TRUE(raises([&] { texture.subImage(0, 0, 0, 4, 4, F::RGBA, Texture::UNSIGNED_BYTE, &buffer, 0, broken); },
                        "ogl/PixelUnpackParameters.cpp", 216, applyText));
-    EXPECT_EQ(before, CallerState::capture()) << "refused upload from a buffer";
+    EXPECT_EQ(before, callerState()) << "refused upload from a buffer";
 
     // The buffer is a pack buffer now; bound as such it cannot become an
     // unpack buffer, and bound as an unpack buffer it cannot turn back.
     ASSERT_TRUE(buffer.isPackBuffer());
     buffer.bind();
-    const CallerState packBound = CallerState::capture();
+    const std::vector<GLint> packBound = callerState();
     EXPECT_TRUE(raises([&] { texture.subImage(0, 0, 0, 4, 4, F::RGBA, Texture::UNSIGNED_BYTE, &buffer, 0, layout); },
                        "ogl/Buffer.cpp", 0, "Buffer::convertToUnpackBuffer cannot convert buffer target while bound"));
-    EXPECT_EQ(packBound, CallerState::capture());
+    EXPECT_EQ(packBound, callerState());
     Buffer::bindDefaultPackBuffer();
     texture.subImage(0, 0, 0, 4, 4, F::RGBA, Texture::UNSIGNED_BYTE, &buffer, 0, layout);
     buffer.bind();
-    const CallerState unpackBound = CallerState::capture();
+    const std::vector<GLint> unpackBound = callerState();
     EXPECT_TRUE(raises([&] { texture.getPixelData(&buffer, 0, 0, F::RGBA, Texture::UNSIGNED_BYTE, 4); },
                        "ogl/Buffer.cpp", 0, "Buffer::convertToPackBuffer cannot convert buffer target while bound"));
-    EXPECT_EQ(unpackBound, CallerState::capture());
+    EXPECT_EQ(unpackBound, callerState());
     Buffer::bindDefaultUnpackBuffer();
 
     // A caller's own unpack buffer stays bound across a buffer upload.
     callersUnpack.bind();
     Buffer::bindDefaultPackBuffer();
-    const CallerState withCallersBuffer = CallerState::capture();
+    const std::vector<GLint> withCallersBuffer = callerState();
     buffer.convertToPackBuffer();
     texture.getPixelData(&buffer, 0, 0, F::RGBA, Texture::UNSIGNED_BYTE, 4);
-    EXPECT_EQ(withCallersBuffer, CallerState::capture());
+    EXPECT_EQ(withCallersBuffer, callerState());
     Buffer::bindDefaultUnpackBuffer();
 
     // Bad read-back alignments change nothing either.
-    const CallerState plain = CallerState::capture();
+    const std::vector<GLint> plain = callerState();
     EXPECT_TRUE(raises([&] { texture.getPixelData(back.data(), 0, F::RGBA, Texture::UNSIGNED_BYTE, 3); },
                        "ogl/Texture.cpp", 0, "Invalid row byte alignment (must be of 1, 2, 4, or 8)."));
-    EXPECT_EQ(plain, CallerState::capture());
+    EXPECT_EQ(plain, callerState());
     setCallerState(false);
 }
 
@@ -517,96 +491,88 @@ TEST_F(TextureGLTest, TransfersLeaveTheCallersStateAsTheyFoundIt)
 // Refusals.
 // ---------------------------------------------------------------------------
 
-TEST_F(TextureGLTest, ReadBackRefusesAnUnboundTextureAMappedBufferAndColorIndex)
-{
-    Texture2D texture(Texture::RGBA8, 4, 4, false);
-    Buffer buffer(64, Buffer::ePack, Buffer::eStreamRead, nullptr);
-    Bytes back(64);
-    EXPECT_TRUE(raises([&] { texture.getPixelData(back.data(), 0, F::RGBA, Texture::UNSIGNED_BYTE, 4); }, kTexture2,
-                       144, "Texture must be bound"));
-    EXPECT_TRUE(raises([&] { texture.getPixelData(&buffer, 0, 0, F::COLOR_INDEX, Texture::UNSIGNED_BYTE, 4); },
-                       kTexture2, 167, "Texture must be bound"));
-    TextureUnit::Unit(0)->bind(&texture);
-    EXPECT_TRUE(raises([&] { texture.getPixelData(back.data(), 0, F::COLOR_INDEX, Texture::UNSIGNED_BYTE, 4); },
-                       kTexture2, 145, "COLOR_INDEX not allowed here!"));
-    EXPECT_TRUE(raises([&] { texture.getPixelData(&buffer, 0, 0, F::COLOR_INDEX, Texture::UNSIGNED_BYTE, 4); },
-                       kTexture2, 169, "COLOR_INDEX not allowed here!"));
-    buffer.bind();
-    buffer.map(0x88B9 /* GL_WRITE_ONLY */);
-    EXPECT_TRUE(raises([&] { texture.getPixelData(&buffer, 0, 0, F::COLOR_INDEX, Texture::UNSIGNED_BYTE, 4); },
-                       kTexture2, 168, "Pixel Buffer Object cannot be memory mapped during data transfer"));
-    buffer.unmap();
-}
-
-TEST_F(TextureGLTest, SubImageChecksInOrderAgainstTheLevel0Size)
+// The checks of a 2D texture in their order: each row of a table passes the
+// checks above it; the sizes are checked against level 0 whatever the level,
+// from memory, from a pixel buffer and from the framebuffer alike.
+TEST_F(TextureGLTest, TwoDimensionalRefusalsInTheirOrder)
 {
     Texture2D texture(Texture::RGBA8, 8, 4, true);
-    TextureUnit::Unit(0)->bind(&texture);
+    Buffer pack(64, Buffer::ePack, Buffer::eStreamRead, nullptr);
+    Buffer unpack(64, Buffer::eUnpack, Buffer::eStreamDraw, nullptr);
     const Bytes image = pattern(8 * 8 * 4, 1);
-    const PixelUnpackParameters unpack;
-    auto upload = [&](int level, std::size_t w, std::size_t h) {
-        texture.subImage(level, 0, 0, w, h, F::RGBA, Texture::UNSIGNED_BYTE, image.data(), unpack);
+    Bytes back(8 * 4 * 4);
+    auto readBack = [&](F format) { texture.getPixelData(back.data(), 0, format, Texture::UNSIGNED_BYTE, 4); };
+    auto readIntoBuffer = [&] { texture.getPixelData(&pack, 0, 0, F::COLOR_INDEX, Texture::UNSIGNED_BYTE, 4); };
+    auto fromMemory = [&](int level, std::size_t w, std::size_t h) {
+        texture.subImage(level, 0, 0, w, h, F::RGBA, Texture::UNSIGNED_BYTE, image.data(), PixelUnpackParameters());
     };
-    EXPECT_TRUE(raises([&] { upload(-1, 0, 0); }, kTexture2, 205, "error subimage width of zero supplied"));
-    EXPECT_TRUE(raises([&] { upload(-1, 9, 0); }, kTexture2, 206, "error subimage height of zero supplied"));
-    EXPECT_TRUE(raises([&] { upload(-1, 9, 9); }, kTexture2, 207, "a negative texture image mip-map level supplied"));
-    EXPECT_TRUE(raises([&] { upload(0, 9, 9); }, kTexture2, 208, "width(9) is greater than width of image (8) "));
-    EXPECT_TRUE(raises([&] { upload(0, 8, 5); }, kTexture2, 209, "height(5) is greater than width of image (4) "));
-
-    // Level 2 is 2 x 1, but the checks look at level 0: GL refuses instead.
-    upload(2, 8, 4);
-    EXPECT_EQ(static_cast<GLenum>(GL_INVALID_VALUE), glGetError());
-}
-
-TEST_F(TextureGLTest, BufferSubImageChecksOffsetAndMappingAfterTheSizes)
-{
-    Texture2D texture(Texture::RGBA8, 4, 4, false);
-    TextureUnit::Unit(0)->bind(&texture);
-    Buffer buffer(64, Buffer::eUnpack, Buffer::eStreamDraw, nullptr);
-    const PixelUnpackParameters unpack;
-    auto upload = [&](int level, std::size_t w, std::size_t h, std::size_t offset) {
-        texture.subImage(level, 0, 0, w, h, F::RGBA, Texture::UNSIGNED_BYTE, &buffer, offset, unpack);
+    auto fromBuffer = [&](int level, std::size_t w, std::size_t h, std::size_t offset) {
+        texture.subImage(level, 0, 0, w, h, F::RGBA, Texture::UNSIGNED_BYTE, &unpack, offset, PixelUnpackParameters());
     };
-    EXPECT_TRUE(raises([&] { upload(-1, 0, 0, 99); }, kTexture2, 241, "error subimage width of zero supplied"));
-    EXPECT_TRUE(raises([&] { upload(-1, 1, 0, 99); }, kTexture2, 242, "error subimage height of zero supplied"));
-    EXPECT_TRUE(raises([&] { upload(-1, 1, 1, 99); }, kTexture2, 243, "a negative texture image mip-map level supplied"));
-    EXPECT_TRUE(raises([&] { upload(0, 5, 1, 99); }, kTexture2, 244, "width(5) is greater than width of image (4) "));
-    EXPECT_TRUE(raises([&] { upload(0, 4, 6, 99); }, kTexture2, 245, "height(6) is greater than width of image (4) "));
-    EXPECT_TRUE(raises([&] { upload(0, 4, 4, 64); }, kTexture2, 246, "offset(64) is greater than pixel buffer object size64"));
-    buffer.bind();
-    buffer.map(0x88B9);
-    EXPECT_TRUE(raises([&] { upload(0, 4, 4, 63); }, kTexture2, 247,
-                       "Pixel Buffer Object cannot be memory mapped during data transfer"));
-    buffer.unmap();
-    Buffer::bindDefaultUnpackBuffer();
-    upload(0, 1, 1, 60);
-}
-
-TEST_F(TextureGLTest, CopyChecksWrapAndSizeRefusals)
-{
-    Texture2D texture(Texture::RGBA8, 4, 4, false);
-    EXPECT_TRUE(raises([&] { texture.setWrap(Texture::REPEAT, Texture::REPEAT); }, kTexture2, 106,
-                       "Texture must be enabled (bound & active)"));
+    expectRefusals(kTexture2, {
+        { 106, "Texture must be enabled (bound & active)", [&] { texture.setWrap(Texture::REPEAT, Texture::REPEAT); } },
+        { 144, "Texture must be bound", [&] { readBack(F::RGBA); } },
+        { 167, "Texture must be bound", readIntoBuffer },
+    });
     TextureUnit::Unit(0)->bind(&texture);
     texture.setWrap(Texture::REPEAT, Texture::MIRRORED_REPEAT);
     GLint wrap = 0;
     glGetTexParameteriv(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, &wrap);
     EXPECT_EQ(0x8370, wrap);
+    expectRefusals(kTexture2, {
+        { 145, "COLOR_INDEX not allowed here!", [&] { readBack(F::COLOR_INDEX); } },
+        { 169, "COLOR_INDEX not allowed here!", readIntoBuffer },
+    });
 
-    EXPECT_TRUE(raises([&] { texture.copyTexSubImage(-1, 0, 0, 0, 0, 0, 0); }, kTexture2, 284,
-                       "error copySubimage width of zero supplied"));
-    EXPECT_TRUE(raises([&] { texture.copyTexSubImage(-1, 0, 0, 0, 0, 1, 0); }, kTexture2, 285,
-                       "error copySubimage height of zero supplied"));
-    EXPECT_TRUE(raises([&] { texture.copyTexSubImage(-1, 0, 0, 0, 0, 1, 1); }, kTexture2, 286,
-                       "a negative texture image mip-map level supplied"));
-    EXPECT_TRUE(raises([&] { texture.copyTexSubImage(0, 0, 0, 0, 0, 5, 1); }, kTexture2, 287,
-                       "width(5) is greater than width of image (4) "));
-    EXPECT_TRUE(raises([&] { texture.copyTexSubImage(0, 0, 0, 0, 0, 4, 5); }, kTexture2, 288,
-                       "height(5) is greater than width of image (4) "));
-
+    // Lines from memory, from a buffer (at the offset 99, past its end: the
+    // offset is checked after the sizes) and copied.
+    const struct
+    {
+        int level;
+        std::size_t width, height;
+        int lines[3];
+        char const* text;
+        char const* copyText;
+    } rows[] = {
+        { -1, 0, 0, { 205, 241, 284 }, "error subimage width of zero supplied",
+          "error copySubimage width of zero supplied" },
+        { -1, 9, 0, { 206, 242, 285 }, "error subimage height of zero supplied",
+          "error copySubimage height of zero supplied" },
+        { -1, 9, 9, { 207, 243, 286 }, "a negative texture image mip-map level supplied", nullptr },
+        { 0, 9, 9, { 208, 244, 287 }, "width(9) is greater than width of image (8) ", nullptr },
+        { 0, 8, 5, { 209, 245, 288 }, "height(5) is greater than width of image (4) ", nullptr },
+    };
+    for (auto const& r : rows)
+    {
+        SCOPED_TRACE(r.text);
+        EXPECT_TRUE(raises([&] { fromMemory(r.level, r.width, r.height); }, kTexture2, r.lines[0], r.text));
+        EXPECT_TRUE(raises([&] { fromBuffer(r.level, r.width, r.height, 99); }, kTexture2, r.lines[1], r.text));
+        EXPECT_TRUE(raises([&] { texture.copyTexSubImage(r.level, 0, 0, 0, 0, r.width, r.height); }, kTexture2,
+                           r.lines[2], r.copyText ? r.copyText : r.text));
+    }
+    expectRefusals(kTexture2, {
+        { 246, "offset(64) is greater than pixel buffer object size64", [&] { fromBuffer(0, 4, 4, 64); } },
+        { 132, std::string("pixelDataSize: Unknown type ") + TokenName(Texture::UNSIGNED_INT),
+          [&] { texture.pixelDataSize(0, F::RGBA, Texture::UNSIGNED_INT); } },
+    });
     EXPECT_EQ(4096u, Texture2D(Texture::RGBA8, 16, 16, false).pixelDataSize(3, F::RGBA, Texture::FLOAT));
-    EXPECT_TRUE(raises([&] { texture.pixelDataSize(0, F::RGBA, Texture::UNSIGNED_INT); }, kTexture2, 132,
-                       std::string("pixelDataSize: Unknown type ") + TokenName(Texture::UNSIGNED_INT)));
+
+    const char* const mapped = "Pixel Buffer Object cannot be memory mapped during data transfer";
+    pack.bind();
+    pack.map(0x88B9 /* GL_WRITE_ONLY */);
+    expectRefusals(kTexture2, { { 168, mapped, readIntoBuffer } });
+    pack.unmap();
+    Buffer::bindDefaultPackBuffer();
+    unpack.bind();
+    unpack.map(0x88B9);
+    expectRefusals(kTexture2, { { 247, mapped, [&] { fromBuffer(0, 4, 4, 63); } } });
+    unpack.unmap();
+    Buffer::bindDefaultUnpackBuffer();
+    fromBuffer(0, 1, 1, 60);
+
+    // Level 2 is 2 x 1, but the checks look at level 0: GL refuses instead.
+    fromMemory(2, 8, 4);
+    EXPECT_EQ(static_cast<GLenum>(GL_INVALID_VALUE), glGetError());
 }
 
 TEST_F(TextureGLTest, OneAndThreeDimensionalRefusalsUseTheSameWords)
@@ -615,30 +581,29 @@ TEST_F(TextureGLTest, OneAndThreeDimensionalRefusalsUseTheSameWords)
     Texture3D volume(Texture::RGBA8, 4, 4, 2, false);
     const Bytes data = pattern(4 * 4 * 4 * 4, 2);
     const PixelUnpackParameters unpack;
-    const char* const t1 = "ogl/Texture1.cpp";
-    const char* const t3 = "ogl/Texture3.cpp";
-    EXPECT_TRUE(raises([&] { line.subImage(-1, 0, 0, F::RGBA, Texture::UNSIGNED_BYTE, data.data(), unpack); }, t1, 0,
-                       "error subimage width of zero supplied"));
-    EXPECT_TRUE(raises([&] { line.subImage(-1, 0, 1, F::RGBA, Texture::UNSIGNED_BYTE, data.data(), unpack); }, t1, 0,
-                       "a negative texture image mip-map level supplied"));
-    EXPECT_TRUE(raises([&] { line.subImage(0, 0, 5, F::RGBA, Texture::UNSIGNED_BYTE, data.data(), unpack); }, t1, 0,
-                       "width(5) is greater than width of image (4) "));
-    EXPECT_TRUE(raises([&] { line.getPixelData(nullptr, 0, F::RGBA, Texture::UNSIGNED_BYTE, 4); }, t1, 0,
-                       "Texture must be bound"));
-    EXPECT_TRUE(raises([&] { line.copyTexSubImage(0, 0, 0, 0, 0); }, t1, 0, "error copySubimage width of zero supplied"));
+    auto upload1 = [&](int level, std::size_t w) {
+        line.subImage(level, 0, w, F::RGBA, Texture::UNSIGNED_BYTE, data.data(), unpack);
+    };
+    expectRefusals("ogl/Texture1.cpp", {
+        { 0, "error subimage width of zero supplied", [&] { upload1(-1, 0); } },
+        { 0, "a negative texture image mip-map level supplied", [&] { upload1(-1, 1); } },
+        { 0, "width(5) is greater than width of image (4) ", [&] { upload1(0, 5); } },
+        { 0, "Texture must be bound", [&] { line.getPixelData(nullptr, 0, F::RGBA, Texture::UNSIGNED_BYTE, 4); } },
+        { 0, "error copySubimage width of zero supplied", [&] { line.copyTexSubImage(0, 0, 0, 0, 0); } },
+    });
 
     auto upload3 = [&](std::size_t w, std::size_t h, std::size_t d) {
         volume.subImage(0, 0, 0, 0, w, h, d, F::RGBA, Texture::UNSIGNED_BYTE, data.data(), unpack);
     };
-    EXPECT_TRUE(raises([&] { upload3(4, 4, 0); }, t3, 0, "error subimage depth of zero supplied"));
-    EXPECT_TRUE(raises([&] { upload3(4, 5, 3); }, t3, 0, "height(5) is greater than width of image (4) "));
-    EXPECT_TRUE(raises([&] { upload3(4, 4, 3); }, t3, 0, "depth(3) is greater than depth of image (2) "));
     Buffer buffer(16, Buffer::eUnpack, Buffer::eStreamDraw, nullptr);
-    EXPECT_TRUE(raises([&] { volume.subImage(0, 0, 0, 0, 1, 1, 1, F::RGBA, Texture::UNSIGNED_BYTE, &buffer, 16,
-                                             unpack); },
-                       t3, 0, "offset(16) is greater than pixel buffer object size16"));
-    EXPECT_TRUE(raises([&] { volume.getPixelData(nullptr, 0, F::RGBA, Texture::UNSIGNED_BYTE, 4); },
-                       t3, 0, "Texture must be bound"));
+    expectRefusals("ogl/Texture3.cpp", {
+        { 0, "error subimage depth of zero supplied", [&] { upload3(4, 4, 0); } },
+        { 0, "height(5) is greater than width of image (4) ", [&] { upload3(4, 5, 3); } },
+        { 0, "depth(3) is greater than depth of image (2) ", [&] { upload3(4, 4, 3); } },
+        { 0, "offset(16) is greater than pixel buffer object size16",
+          [&] { volume.subImage(0, 0, 0, 0, 1, 1, 1, F::RGBA, Texture::UNSIGNED_BYTE, &buffer, 16, unpack); } },
+        { 0, "Texture must be bound", [&] { volume.getPixelData(nullptr, 0, F::RGBA, Texture::UNSIGNED_BYTE, 4); } },
+    });
     EXPECT_EQ(4u * 4 * 2 * 4, volume.pixelDataSize(0, F::RGBA, Texture::UNSIGNED_BYTE));
 }
 

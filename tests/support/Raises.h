@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <initializer_list>
 #include <ostream>
 #include <string>
 #include <type_traits>
@@ -67,6 +69,22 @@ template <class F>
     if (r.raised && r.file == file && (line == 0 || r.line == line) && r.message == message)
         return ::testing::AssertionSuccess();
     return ::testing::AssertionFailure() << r << "; expected " << file << "(" << line << "): " << message;
+}
+
+/// One row of a refusal table: the line (0: any) and message of the
+/// InternalException that action must raise.
+struct Refusal
+{
+    int line;
+    std::string message;
+    std::function<void()> action;
+};
+
+/// Runs the rows in order; each must raise its message at its line of file.
+inline void expectRefusals(char const* file, std::initializer_list<Refusal> rows)
+{
+    for (Refusal const& row : rows)
+        EXPECT_TRUE(raises(row.action, file, row.line, row.message)) << "row " << (&row - rows.begin());
 }
 
 } // namespace OruTest
