@@ -16,8 +16,10 @@
 #include "support/LayerGLTest.h"
 #include "support/Raises.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -69,6 +71,26 @@ Bytes pattern(std::size_t size, unsigned int seed)
     Bytes bytes(size);
     for (std::size_t i = 0; i < size; ++i)
         bytes[i] = static_cast<unsigned char>((i * 7 + seed * 13 + (i >> 3)) & 0xFF);
+    return bytes;
+}
+
+// Level 0 of the bound texture, read back with rows of single bytes.
+template <class T>
+Bytes readBack(T const& texture, std::size_t size, Texture::Format format = F::RGBA,
+               Texture::Type type = Texture::UNSIGNED_BYTE)
+{
+    Bytes back(size, 0xCD);
+    texture.getPixelData(back.data(), 0, format, type, 1);
+    return back;
+}
+
+// What a pack buffer holds from offset on.
+Bytes contents(Buffer& buffer, long long offset, std::size_t size)
+{
+    Bytes bytes(size, 0xCD);
+    buffer.bind();
+    buffer.getSubData(offset, static_cast<long long>(size), bytes.data());
+    Buffer::bindDefaultPackBuffer();
     return bytes;
 }
 
@@ -167,17 +189,10 @@ TEST_F(TextureGLTest, NonPowerOfTwoSizesFollowTheDriversAnswers)
     const bool rect = TextureRECT::isSupported();
     const char* rule = std::getenv("ORU_TEST_SIZE_RULE");
     const std::string configuration = rule ? rule : "";
-    if (configuration == "powers-of-two")
+    if (!configuration.empty()) // powers-of-two, rectangles-only or npot-only
     {
-        ASSERT_FALSE(npot || rect) << "the driver still offers non-power-of-two or rectangle textures";
-    }
-    else if (configuration == "rectangles-only")
-    {
-        ASSERT_TRUE(!npot && rect);
-    }
-    else if (configuration == "npot-only")
-    {
-        ASSERT_TRUE(npot && !rect);
+        ASSERT_EQ(configuration == "npot-only", npot) << configuration;
+        ASSERT_EQ(configuration == "rectangles-only", rect) << configuration;
     }
 
     const char* const text2 = "Texture2::ctor hardware only supports power of two textures";
@@ -272,9 +287,7 @@ TEST_F(TextureGLTest, EveryFormatReadsBackIdenticallyInEveryLayoutAndThroughPixe
 
         // Tightly packed, the default layout.
         texture.subImage(0, 0, 0, W, H, f.format, f.type, image.data(), PixelUnpackParameters());
-        Bytes back(image.size(), 0xCD);
-        texture.getPixelData(back.data(), 0, f.format, f.type, 1);
-        EXPECT_EQ(image, back);
+        EXPECT_EQ(image, readBack(texture, image.size(), f.format, f.type));
 
         // A 5 x 3 window at (2, 1) of a larger source, 11 pixels a row padded
         // to 8 bytes, 2 pixels and 1 row skipped, written at (3, 1).
@@ -292,8 +305,7 @@ TEST_F(TextureGLTest, EveryFormatReadsBackIdenticallyInEveryLayoutAndThroughPixe
         for (std::size_t y = 0; y < 3; ++y)
             std::memcpy(&expected[(1 + y) * row + 3 * f.bytesPerPixel],
                         &source[(1 + y) * sourceRow + 2 * f.bytesPerPixel], 5 * f.bytesPerPixel);
-        texture.getPixelData(back.data(), 0, f.format, f.type, 1);
-        EXPECT_EQ(expected, back);
+        EXPECT_EQ(expected, readBack(texture, image.size(), f.format, f.type));
 
         // Rows read back padded to 8 bytes.
         const std::size_t paddedRow = (row + 7) / 8 * 8;
@@ -309,18 +321,13 @@ TEST_F(TextureGLTest, EveryFormatReadsBackIdenticallyInEveryLayoutAndThroughPixe
         Buffer unpackBuffer(static_cast<long long>(staged.size()), Buffer::eUnpack, Buffer::eStreamDraw,
                             staged.data());
         texture.subImage(0, 0, 0, W, H, f.format, f.type, &unpackBuffer, offset, PixelUnpackParameters());
-        texture.getPixelData(back.data(), 0, f.format, f.type, 1);
-        EXPECT_EQ(other, back) << "uploaded from the buffer";
+        EXPECT_EQ(other, readBack(texture, other.size(), f.format, f.type)) << "uploaded from the buffer";
 
         Buffer packBuffer(static_cast<long long>(offset + other.size()), Buffer::eUnpack, Buffer::eStreamRead,
                           nullptr);
         ASSERT_TRUE(packBuffer.isPackBuffer());
         texture.getPixelData(&packBuffer, offset, 0, f.format, f.type, 1);
-        packBuffer.bind();
-        Bytes fromBuffer(other.size(), 0xCD);
-        packBuffer.getSubData(offset, static_cast<long long>(fromBuffer.size()), fromBuffer.data());
-        Buffer::bindDefaultPackBuffer();
-        EXPECT_EQ(other, fromBuffer) << "read back into the buffer";
+        EXPECT_EQ(other, contents(packBuffer, offset, other.size())) << "read back into the buffer";
     }
 }
 
@@ -352,11 +359,7 @@ TEST_F(TextureGLTest, BuffersOfAnotherRoleAreConvertedForTheTransfer)
     Buffer::bindDefaultUnpackBuffer();
     texture.getPixelData(&buffer, 0, 0, F::RGBA, Texture::UNSIGNED_BYTE, 4);
     EXPECT_TRUE(buffer.isPackBuffer());
-    Bytes back(16);
-    buffer.bind();
-    buffer.getSubData(0, 16, back.data());
-    Buffer::bindDefaultPackBuffer();
-    EXPECT_EQ(image, back);
+    EXPECT_EQ(image, contents(buffer, 0, 16));
 }
 
 TEST_F(TextureGLTest, OneAndThreeDimensionalRoundTrips)
@@ -365,18 +368,14 @@ TEST_F(TextureGLTest, OneAndThreeDimensionalRoundTrips)
     TextureUnit::Unit(0)->bind(&line);
     const Bytes row = pattern(16 * 4, 4);
     line.subImage(0, 0, 16, F::RGBA, Texture::UNSIGNED_BYTE, row.data(), PixelUnpackParameters());
-    Bytes back(row.size());
-    line.getPixelData(back.data(), 0, F::RGBA, Texture::UNSIGNED_BYTE, 1);
-    EXPECT_EQ(row, back);
+    EXPECT_EQ(row, readBack(line, row.size()));
     EXPECT_EQ(row.size(), line.pixelDataSize(0, F::RGBA, Texture::UNSIGNED_BYTE));
 
     Texture3D volume(Texture::RGB8, 4, 2, 2, false);
     TextureUnit::Unit(0)->bind(&volume);
     const Bytes voxels = pattern(4 * 2 * 2 * 3, 5);
     volume.subImage(0, 0, 0, 0, 4, 2, 2, F::RGB, Texture::UNSIGNED_BYTE, voxels.data(), PixelUnpackParameters());
-    Bytes backVoxels(voxels.size());
-    volume.getPixelData(backVoxels.data(), 0, F::RGB, Texture::UNSIGNED_BYTE, 1);
-    EXPECT_EQ(voxels, backVoxels);
+    EXPECT_EQ(voxels, readBack(volume, voxels.size(), F::RGB));
 
     // A slice from a pixel buffer at an offset, read back into one.
     const Bytes slice = pattern(4 * 2 * 3, 6);
@@ -386,12 +385,9 @@ TEST_F(TextureGLTest, OneAndThreeDimensionalRoundTrips)
     volume.subImage(0, 0, 0, 1, 4, 2, 1, F::RGB, Texture::UNSIGNED_BYTE, &unpackBuffer, 5, PixelUnpackParameters());
     Buffer packBuffer(static_cast<long long>(voxels.size()), Buffer::ePack, Buffer::eStreamRead, nullptr);
     volume.getPixelData(&packBuffer, 0, 0, F::RGB, Texture::UNSIGNED_BYTE, 1);
-    packBuffer.bind();
-    packBuffer.getSubData(0, static_cast<long long>(backVoxels.size()), backVoxels.data());
-    Buffer::bindDefaultPackBuffer();
-    Bytes expected(voxels.begin(), voxels.begin() + 24);
-    expected.insert(expected.end(), slice.begin(), slice.end());
-    EXPECT_EQ(expected, backVoxels);
+    Bytes expected = voxels;
+    std::copy(slice.begin(), slice.end(), expected.begin() + 24); // the second slice
+    EXPECT_EQ(expected, contents(packBuffer, 0, voxels.size()));
 }
 
 TEST_F(TextureGLTest, VolumeFromDataUsesTheCallersUnpackStateNotTheParameters)
@@ -406,9 +402,7 @@ TEST_F(TextureGLTest, VolumeFromDataUsesTheCallersUnpackStateNotTheParameters)
     EXPECT_EQ(0, integer(GL_UNPACK_SKIP_PIXELS));
     glPixelStorei(GL_UNPACK_ALIGNMENT, 4);
     TextureUnit::Unit(0)->bind(&volume);
-    Bytes back(voxels.size());
-    volume.getPixelData(back.data(), 0, F::RGBA, Texture::UNSIGNED_BYTE, 1);
-    EXPECT_EQ(voxels, back);
+    EXPECT_EQ(voxels, readBack(volume, voxels.size()));
 }
 
 // ---------------------------------------------------------------------------
@@ -430,60 +424,61 @@ TEST_F(TextureGLTest, TransfersLeaveTheCallersStateAsTheyFoundIt)
     broken.setRowLength(9);
     broken.setAlignment(static_cast<PixelUnpackParameters::teAlignment>(4));
 
+    auto fromMemory = [&](PixelUnpackParameters const& p) {
+        texture.subImage(0, 0, 0, 4, 4, F::RGBA, Texture::UNSIGNED_BYTE, image.data(), p);
+    };
+    auto fromBuffer = [&](PixelUnpackParameters const& p) {
+        texture.subImage(0, 0, 0, 4, 4, F::RGBA, Texture::UNSIGNED_BYTE, &buffer, 0, p);
+    };
+    auto intoBuffer = [&](unsigned int alignment) {
+        texture.getPixelData(&buffer, 0, 0, F::RGBA, Texture::UNSIGNED_BYTE, alignment);
+    };
+
+    // Runs the transfer, which must raise text from file at line when a file
+    // is given, and expects the caller's state as it was just before.
+    auto unchanged = [](char const* what, std::function<void()> transfer, char const* file = nullptr, int line = 0,
+                        char const* text = nullptr) {
+        const std::vector<GLint> before = callerState();
+        if (file)
+            EXPECT_TRUE(raises(transfer, file, line, text)) << what;
+        else
+            transfer();
+        EXPECT_EQ(before, callerState()) << what;
+    };
+
     TextureUnit::Unit(0)->bind(&texture);
     setCallerState(true);
-    const std::vector<GLint> before = callerState();
-
-    texture.subImage(0, 0, 0, 4, 4, F::RGBA, Texture::UNSIGNED_BYTE, image.data(), layout);
-    EXPECT_EQ(before, callerState()) << "upload from memory";
-    texture.subImage(0, 0, 0, 4, 4, F::RGBA, Texture::UNSIGNED_BYTE, &buffer, 0, layout);
-    EXPECT_EQ(before, callerState()) << "upload from a buffer";
-    texture.getPixelData(back.data(), 0, F::RGBA, Texture::UNSIGNED_BYTE, 1);
-    EXPECT_EQ(before, callerState()) << "read-back into memory";
-    texture.getPixelData(&buffer, 0, 0, F::RGBA, Texture::UNSIGNED_BYTE, 2);
-    EXPECT_EQ(before, callerState()) << "read-back into a buffer";
-
-    // Refusals after the push: a bad alignment found by apply(), and buffers
-    // that cannot change role while bound.
-    const std::string applyText = "Enum value not recognized";
-    EXPECT_TRUE(raises([&] { texture.subImage(0, 0, 0, 4, 4, F::RGBA, Texture::UNSIGNED_BYTE, image.data(), broken); },
-                       "ogl/PixelUnpackParameters.cpp", 216, applyText));
-    EXPECT_EQ(before, callerState()) << "refused upload from memory";
-    EXPECT_TRUE(raises([&] { texture.subImage(0, 0, 0, 4, 4, F::RGBA, Texture::UNSIGNED_BYTE, &buffer, 0, broken); },
-                       "ogl/PixelUnpackParameters.cpp", 216, applyText));
-    EXPECT_EQ(before, callerState()) << "refused upload from a buffer";
+    unchanged("upload from memory", [&] { fromMemory(layout); });
+    unchanged("upload from a buffer", [&] { fromBuffer(layout); });
+    unchanged("read-back into memory", [&] { texture.getPixelData(back.data(), 0, F::RGBA, Texture::UNSIGNED_BYTE, 1); });
+    unchanged("read-back into a buffer", [&] { intoBuffer(2); });
+    // Refused after the push: a bad alignment found by apply().
+    const char* const apply = "ogl/PixelUnpackParameters.cpp";
+    unchanged("refused upload from memory", [&] { fromMemory(broken); }, apply, 216, "Enum value not recognized");
+    unchanged("refused upload from a buffer", [&] { fromBuffer(broken); }, apply, 216, "Enum value not recognized");
 
     // The buffer is a pack buffer now; bound as such it cannot become an
     // unpack buffer, and bound as an unpack buffer it cannot turn back.
     ASSERT_TRUE(buffer.isPackBuffer());
     buffer.bind();
-    const std::vector<GLint> packBound = callerState();
-    EXPECT_TRUE(raises([&] { texture.subImage(0, 0, 0, 4, 4, F::RGBA, Texture::UNSIGNED_BYTE, &buffer, 0, layout); },
-                       "ogl/Buffer.cpp", 0, "Buffer::convertToUnpackBuffer cannot convert buffer target while bound"));
-    EXPECT_EQ(packBound, callerState());
+    unchanged("bound pack buffer", [&] { fromBuffer(layout); }, "ogl/Buffer.cpp", 0,
+              "Buffer::convertToUnpackBuffer cannot convert buffer target while bound");
     Buffer::bindDefaultPackBuffer();
-    texture.subImage(0, 0, 0, 4, 4, F::RGBA, Texture::UNSIGNED_BYTE, &buffer, 0, layout);
+    fromBuffer(layout);
     buffer.bind();
-    const std::vector<GLint> unpackBound = callerState();
-    EXPECT_TRUE(raises([&] { texture.getPixelData(&buffer, 0, 0, F::RGBA, Texture::UNSIGNED_BYTE, 4); },
-                       "ogl/Buffer.cpp", 0, "Buffer::convertToPackBuffer cannot convert buffer target while bound"));
-    EXPECT_EQ(unpackBound, callerState());
+    unchanged("bound unpack buffer", [&] { intoBuffer(4); }, "ogl/Buffer.cpp", 0,
+              "Buffer::convertToPackBuffer cannot convert buffer target while bound");
     Buffer::bindDefaultUnpackBuffer();
 
-    // A caller's own unpack buffer stays bound across a buffer upload.
+    // A caller's own unpack buffer stays bound across a buffer read-back.
     callersUnpack.bind();
-    Buffer::bindDefaultPackBuffer();
-    const std::vector<GLint> withCallersBuffer = callerState();
-    buffer.convertToPackBuffer();
-    texture.getPixelData(&buffer, 0, 0, F::RGBA, Texture::UNSIGNED_BYTE, 4);
-    EXPECT_EQ(withCallersBuffer, callerState());
+    unchanged("the caller's unpack buffer", [&] {
+        buffer.convertToPackBuffer();
+        intoBuffer(4);
+    });
     Buffer::bindDefaultUnpackBuffer();
-
-    // Bad read-back alignments change nothing either.
-    const std::vector<GLint> plain = callerState();
-    EXPECT_TRUE(raises([&] { texture.getPixelData(back.data(), 0, F::RGBA, Texture::UNSIGNED_BYTE, 3); },
-                       "ogl/Texture.cpp", 0, "Invalid row byte alignment (must be of 1, 2, 4, or 8)."));
-    EXPECT_EQ(plain, callerState());
+    unchanged("bad read-back alignment", [&] { texture.getPixelData(back.data(), 0, F::RGBA, Texture::UNSIGNED_BYTE, 3); },
+              "ogl/Texture.cpp", 0, "Invalid row byte alignment (must be of 1, 2, 4, or 8).");
     setCallerState(false);
 }
 
@@ -501,7 +496,7 @@ TEST_F(TextureGLTest, TwoDimensionalRefusalsInTheirOrder)
     Buffer unpack(64, Buffer::eUnpack, Buffer::eStreamDraw, nullptr);
     const Bytes image = pattern(8 * 8 * 4, 1);
     Bytes back(8 * 4 * 4);
-    auto readBack = [&](F format) { texture.getPixelData(back.data(), 0, format, Texture::UNSIGNED_BYTE, 4); };
+    auto readInto = [&](F format) { texture.getPixelData(back.data(), 0, format, Texture::UNSIGNED_BYTE, 4); };
     auto readIntoBuffer = [&] { texture.getPixelData(&pack, 0, 0, F::COLOR_INDEX, Texture::UNSIGNED_BYTE, 4); };
     auto fromMemory = [&](int level, std::size_t w, std::size_t h) {
         texture.subImage(level, 0, 0, w, h, F::RGBA, Texture::UNSIGNED_BYTE, image.data(), PixelUnpackParameters());
@@ -511,7 +506,7 @@ TEST_F(TextureGLTest, TwoDimensionalRefusalsInTheirOrder)
     };
     expectRefusals(kTexture2, {
         { 106, "Texture must be enabled (bound & active)", [&] { texture.setWrap(Texture::REPEAT, Texture::REPEAT); } },
-        { 144, "Texture must be bound", [&] { readBack(F::RGBA); } },
+        { 144, "Texture must be bound", [&] { readInto(F::RGBA); } },
         { 167, "Texture must be bound", readIntoBuffer },
     });
     TextureUnit::Unit(0)->bind(&texture);
@@ -520,7 +515,7 @@ TEST_F(TextureGLTest, TwoDimensionalRefusalsInTheirOrder)
     glGetTexParameteriv(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, &wrap);
     EXPECT_EQ(0x8370, wrap);
     expectRefusals(kTexture2, {
-        { 145, "COLOR_INDEX not allowed here!", [&] { readBack(F::COLOR_INDEX); } },
+        { 145, "COLOR_INDEX not allowed here!", [&] { readInto(F::COLOR_INDEX); } },
         { 169, "COLOR_INDEX not allowed here!", readIntoBuffer },
     });
 
