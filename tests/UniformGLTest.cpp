@@ -89,11 +89,14 @@ Floats transposed(Floats const& rows, int n)
     return columns;
 }
 
-Floats sequence(int count, float first)
+// Values for the four flavours: count numbers from first + 10 * flavour on.
+template <class T>
+std::vector<std::vector<T>> flavours(int count, T first)
 {
-    Floats values;
-    for (int i = 0; i < count; ++i)
-        values.push_back(first + static_cast<float>(i));
+    std::vector<std::vector<T>> values(4);
+    for (int flavour = 0; flavour < 4; ++flavour)
+        for (int i = 0; i < count; ++i)
+            values[flavour].push_back(first + static_cast<T>(10 * flavour + i));
     return values;
 }
 
@@ -196,6 +199,24 @@ protected:
          ...);
     }
 
+    // The array name of count elements through setUniform (N = 1) to
+    // setUniform4, in the four flavours.
+    template <int N, class T>
+    void expectArray(const char* name, GLsizei count, std::vector<std::vector<T>> const& values)
+    {
+        Program& p = *program_;
+        expectFlavours<T>(name, count, values, [&](auto at, bool checked, std::vector<T> v) {
+            if constexpr (N == 1)
+                checked ? p.setUniform(at, count, v.data()) : p.setUniform_Unsafe(at, count, v.data());
+            else if constexpr (N == 2)
+                checked ? p.setUniform2(at, count, v.data()) : p.setUniform2_Unsafe(at, count, v.data());
+            else if constexpr (N == 3)
+                checked ? p.setUniform3(at, count, v.data()) : p.setUniform3_Unsafe(at, count, v.data());
+            else
+                checked ? p.setUniform4(at, count, v.data()) : p.setUniform4_Unsafe(at, count, v.data());
+        });
+    }
+
     std::unique_ptr<Program> program_;
 };
 
@@ -245,12 +266,7 @@ TEST_F(UniformGLTest, MatrixSetters)
     Program& p = *program_;
     for (int n = 2; n <= 4; ++n)
     {
-        std::vector<Floats> one, two;
-        for (int flavour = 0; flavour < 4; ++flavour)
-        {
-            one.push_back(sequence(n * n, 10.0f * flavour));
-            two.push_back(sequence(2 * n * n, 100.0f * flavour));
-        }
+        const std::vector<Floats> one = flavours<GLfloat>(n * n, 0.0f), two = flavours<GLfloat>(2 * n * n, 0.5f);
         std::vector<Floats> oneStored;
         for (Floats const& rows : one)
             oneStored.push_back(transposed(rows, n));
@@ -277,46 +293,15 @@ TEST_F(UniformGLTest, MatrixSetters)
 
 TEST_F(UniformGLTest, ArraySetters)
 {
-    Program& p = *program_;
-    expectFlavours<GLint>("ia", 3, {{1, 2, 3}, {4, 5, 6}, {7, 8, 9}, {-1, -2, -3}}, [&](auto at, bool checked, Ints v) {
-        checked ? p.setUniform(at, 3, v.data()) : p.setUniform_Unsafe(at, 3, v.data());
-    });
-    expectFlavours<GLint>("i2a", 2, {{1, 2, 3, 4}, {5, 6, 7, 8}, {9, 10, 11, 12}, {-1, -2, -3, -4}},
-                          [&](auto at, bool checked, Ints v) {
-                              checked ? p.setUniform2(at, 2, v.data()) : p.setUniform2_Unsafe(at, 2, v.data());
-                          });
-    std::vector<Ints> sixes, eights;
-    for (GLint f = 0; f < 4; ++f)
-    {
-        sixes.push_back({f, 1, 2, 3, 4, 5 + f});
-        eights.push_back({f, 1, 2, 3, 4, 5, 6, 7 + f});
-    }
-    expectFlavours<GLint>("i3a", 2, sixes, [&](auto at, bool checked, Ints v) {
-        checked ? p.setUniform3(at, 2, v.data()) : p.setUniform3_Unsafe(at, 2, v.data());
-    });
-    expectFlavours<GLint>("i4a", 2, eights, [&](auto at, bool checked, Ints v) {
-        checked ? p.setUniform4(at, 2, v.data()) : p.setUniform4_Unsafe(at, 2, v.data());
-    });
-    std::vector<Floats> threes, fours, floatSixes;
-    for (int f = 0; f < 4; ++f)
-    {
-        threes.push_back(sequence(3, 0.5f + f));
-        fours.push_back(sequence(4, 10.5f + f));
-        floatSixes.push_back(sequence(6, 20.5f + f));
-    }
-    expectFlavours<GLfloat>("fa", 3, threes, [&](auto at, bool checked, Floats v) {
-        checked ? p.setUniform(at, 3, v.data()) : p.setUniform_Unsafe(at, 3, v.data());
-    });
-    expectFlavours<GLfloat>("f2a", 2, fours, [&](auto at, bool checked, Floats v) {
-        checked ? p.setUniform2(at, 2, v.data()) : p.setUniform2_Unsafe(at, 2, v.data());
-    });
-    expectFlavours<GLfloat>("f3a", 2, floatSixes, [&](auto at, bool checked, Floats v) {
-        checked ? p.setUniform3(at, 2, v.data()) : p.setUniform3_Unsafe(at, 2, v.data());
-    });
+    expectArray<1>("ia", 3, flavours<GLint>(3, -25));
+    expectArray<2>("i2a", 2, flavours<GLint>(4, -25));
+    expectArray<3>("i3a", 2, flavours<GLint>(6, -25));
+    expectArray<4>("i4a", 2, flavours<GLint>(8, -25));
+    expectArray<1>("fa", 3, flavours<GLfloat>(3, 0.5f));
+    expectArray<2>("f2a", 2, flavours<GLfloat>(4, 10.5f));
+    expectArray<3>("f3a", 2, flavours<GLfloat>(6, 20.5f));
     // setUniform4 with floats: two vec3 values from six floats.
-    expectFlavours<GLfloat>("f4a", 2, floatSixes, [&](auto at, bool checked, Floats v) {
-        checked ? p.setUniform4(at, 2, v.data()) : p.setUniform4_Unsafe(at, 2, v.data());
-    });
+    expectArray<4>("f4a", 2, flavours<GLfloat>(6, 20.5f));
 }
 
 TEST_F(UniformGLTest, CheckedSettersRefuseAProgramThatIsNotCurrent)
