@@ -18,6 +18,9 @@ using Oru::OGL::VertexShader;
 using OruTest::FakeEntryPoint;
 using OruTest::GLSLGLTest;
 using OruTest::LayerGLTest;
+using OruTest::kFragmentSource;
+using OruTest::kVertexSource;
+using OruTest::load;
 using OruTest::Raised;
 using OruTest::raisedBy;
 
@@ -25,14 +28,10 @@ namespace
 {
 
 const char* const kProgramFile = "ogl/Program.cpp";
-const char* const kMustBeLinked = "Program must be linked to get active uniform count";
 
 const GLenum kLinkStatus = 0x8B82;    // GL_LINK_STATUS
 const GLenum kInfoLogLength = 0x8B84; // GL_INFO_LOG_LENGTH
 const GLenum kCurrentProgram = 0x8B8D; // GL_CURRENT_PROGRAM
-
-const char* kVertex = "#version 110\nvoid main() { gl_Position = ftransform(); }\n";
-const char* kFragment = "#version 110\nvoid main() { gl_FragColor = vec4(1.0); }\n";
 
 // ---- counting and answering fakes ----
 
@@ -103,12 +102,6 @@ std::string driverLog(Program& program)
     return log.data();
 }
 
-void load(Program& program, const char* vertex, const char* fragment)
-{
-    program.loadVertexShader(1, &vertex, nullptr);
-    program.loadFragmentShader(1, &fragment, nullptr);
-}
-
 using ProgramGLTest = GLSLGLTest;
 using ProgramSupportGLTest = LayerGLTest;
 
@@ -137,7 +130,7 @@ TEST_F(ProgramGLTest, ValidProgramLinksValidatesAndEnables)
         Program program;
         name = program.objectID();
         EXPECT_EQ(GL_TRUE, _cgmIsProgram(name));
-        load(program, kVertex, kFragment);
+        load(program, kVertexSource, kFragmentSource);
         EXPECT_EQ(2, attachedCount(program));
         EXPECT_FALSE(program.isLinked());
         EXPECT_NO_THROW(program.link(true));
@@ -158,7 +151,7 @@ TEST_F(ProgramGLTest, ValidProgramLinksValidatesAndEnables)
 TEST_F(ProgramGLTest, StatesAreReadBackAfterEveryLink)
 {
     Program program;
-    load(program, kVertex, kFragment);
+    load(program, kVertexSource, kFragmentSource);
     program.link(true);
     program.enable();
     program.disable();
@@ -186,7 +179,7 @@ TEST_F(ProgramGLTest, AttachRefusesShadersWithoutSource)
     EXPECT_EQ(0, attachedCount(program));
 
     // Loaded is enough; compiling is not required.
-    vertex.load(1, &kVertex, nullptr);
+    load(vertex, kVertexSource);
     program.attach(&vertex);
     EXPECT_FALSE(vertex.isCompiled());
     EXPECT_EQ(1, attachedCount(program));
@@ -200,8 +193,8 @@ TEST_F(ProgramGLTest, RealLinkErrorsRaiseWithTheDriversLog)
     const char* unresolvedVarying[] = {
         "#version 110\nvoid main() { gl_Position = ftransform(); }\n",
         "#version 110\nvarying vec4 colour;\nvoid main() { gl_FragColor = colour; }\n"};
-    const char* missingMain[] = {kVertex, "#version 110\nvoid shade() {}\n"};
-    const char* notCompiling[] = {kVertex, "#version 110\nvoid main() { gl_FragColor = 1.0 }\n"};
+    const char* missingMain[] = {kVertexSource, "#version 110\nvoid shade() {}\n"};
+    const char* notCompiling[] = {kVertexSource, "#version 110\nvoid main() { gl_FragColor = 1.0 }\n"};
     for (const char** sources : {unresolvedVarying, missingMain, notCompiling})
     {
         Program program;
@@ -282,15 +275,15 @@ TEST_F(LinkVerdictGLTest, OtherWarningsAndEmptyLogs)
 TEST_F(ProgramGLTest, DetachingAll)
 {
     Program program;
-    load(program, kVertex, kFragment);
-    load(program, kVertex, kFragment);
+    load(program, kVertexSource, kFragmentSource);
+    load(program, kVertexSource, kFragmentSource);
     program.detachAllVertexShaders();
     EXPECT_EQ(2, attachedCount(program));
-    load(program, kVertex, kFragment);
+    load(program, kVertexSource, kFragmentSource);
     program.detachAllFragmentShaders();
     EXPECT_EQ(1, attachedCount(program));
     program.link(true); // the remaining vertex shader links with fixed-function fragments
-    load(program, kVertex, kFragment);
+    load(program, kVertexSource, kFragmentSource);
     program.detachAllShaders();
     EXPECT_EQ(0, attachedCount(program));
 }
@@ -303,11 +296,11 @@ TEST_F(ProgramGLTest, TypedDetachingIsBounded)
     for (int i = 0; i < 65; ++i)
     {
         fragments.emplace_back(new FragmentShader());
-        fragments.back()->load(1, &kFragment, nullptr);
+        load(*fragments.back(), kFragmentSource);
         program.attach(fragments.back().get());
     }
     VertexShader vertex;
-    vertex.load(1, &kVertex, nullptr);
+    load(vertex, kVertexSource);
     program.attach(&vertex);
     program.detachAllVertexShaders();
     EXPECT_EQ(66, attachedCount(program)); // the vertex shader is listed 66th
@@ -344,7 +337,7 @@ TEST_F(ProgramGLTest, AttributeLocationsTakeEffectAtLink)
 {
     Program program;
     const char* vertex = "#version 110\nattribute vec4 position;\nvoid main() { gl_Position = position; }\n";
-    load(program, vertex, kFragment);
+    load(program, vertex, kFragmentSource);
     program.setAttributeLocation(5, "position");
     program.link(true);
     EXPECT_EQ(5, program.getAttributeLocation("position"));

@@ -14,6 +14,10 @@ using Oru::OGL::VertexShader;
 using OruTest::FakeEntryPoint;
 using OruTest::GLSLGLTest;
 using OruTest::LayerGLTest;
+using OruTest::kBrokenSource;
+using OruTest::kFragmentSource;
+using OruTest::kVertexSource;
+using OruTest::load;
 using OruTest::Raised;
 using OruTest::raisedBy;
 
@@ -22,10 +26,6 @@ namespace
 
 const char* const kShaderFile = "ogl/Shader.cpp";
 const char* const kNeedsOpenGL20 = "Oru::OGL::ExtensionManager::Instance()->isSupported(OPEN_GL_2_0)";
-
-const char* const kVertexSource = "#version 110\nvoid main() { gl_Position = ftransform(); }\n";
-const char* const kFragmentSource = "#version 110\nvoid main() { gl_FragColor = vec4(1.0); }\n";
-const char* const kBrokenSource = "#version 110\nvoid main() { gl_FragColor = vec4(1.0) }\n";
 
 int gCreateShaderCalls = 0;
 GLuint gCreatedName = 0;
@@ -50,11 +50,6 @@ void APIENTRY noLogGetShaderiv(GLuint shader, GLenum pname, GLint* params)
     gRealGetShaderiv(shader, pname, params);
     if (pname == 0x8B84) // GL_INFO_LOG_LENGTH
         *params = 0;
-}
-
-void load(Shader& shader, const char* source)
-{
-    shader.load(1, &source, nullptr);
 }
 
 std::string driverLog(Shader const& shader)

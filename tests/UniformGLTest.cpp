@@ -24,8 +24,6 @@ using OruTest::raisedBy;
 namespace
 {
 
-const char* kVertex = "#version 110\nvoid main() { gl_Position = ftransform(); }\n";
-
 // Every uniform contributes to the colour, so that the compiler keeps it.
 const char* kFragment = R"(#version 110
 #extension GL_ARB_texture_rectangle : enable
@@ -110,8 +108,7 @@ protected:
         if (IsSkipped() || HasFatalFailure())
             return;
         program_.reset(new Program());
-        program_->loadVertexShader(1, &kVertex, nullptr);
-        program_->loadFragmentShader(1, &kFragment, nullptr);
+        OruTest::load(*program_, OruTest::kVertexSource, kFragment);
         ASSERT_NO_THROW(program_->link(true));
         program_->enable();
         gUploads.clear();

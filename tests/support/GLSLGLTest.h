@@ -1,13 +1,14 @@
 #ifndef ORU_TESTS_GLSLGLTEST_H
 #define ORU_TESTS_GLSLGLTEST_H
 
-// Shared by the shader and program tests: a guard that puts a fake behind an
-// entry-point pointer for one scope, and a fixture for the tests that need
-// OpenGL 2.0 marked by the extension manager.
+// Shared by the shader and program tests: sources, a guard that puts a fake
+// behind an entry-point pointer for one scope, and a fixture for the tests
+// that need OpenGL 2.0 marked by the extension manager.
 
 #include "support/LayerGLTest.h"
 #include "support/Raises.h"
 
+#include "oru_ogl/ogl/Program.h"
 #include "oru_ogl/ogl/Shader.h"
 
 #include <GL/gl.h>
@@ -17,6 +18,22 @@
 
 namespace OruTest
 {
+
+/// Shaders every 2.x driver compiles, and a fragment shader that does not.
+const char* const kVertexSource = "#version 110\nvoid main() { gl_Position = ftransform(); }\n";
+const char* const kFragmentSource = "#version 110\nvoid main() { gl_FragColor = vec4(1.0); }\n";
+const char* const kBrokenSource = "#version 110\nvoid main() { gl_FragColor = vec4(1.0) }\n";
+
+inline void load(Oru::OGL::Shader& shader, const char* source)
+{
+    shader.load(1, &source, nullptr);
+}
+
+inline void load(Oru::OGL::Program& program, const char* vertex, const char* fragment)
+{
+    program.loadVertexShader(1, &vertex, nullptr);
+    program.loadFragmentShader(1, &fragment, nullptr);
+}
 
 /// Puts a fake behind an entry-point pointer until the end of the scope.
 template <class Pointer>
