@@ -7,10 +7,12 @@
 #include "support/Raises.h"
 
 #include <cstring>
+#include <string>
 #include <vector>
 
 using Oru::OGL::Buffer;
-using OruTest::raises;
+using OruTest::expectRefusals;
+using OruTest::glInteger;
 
 namespace
 {
@@ -23,13 +25,6 @@ const GLenum kArrayBinding = 0x8894;
 const GLenum kBufferSize = 0x8764;   // GL_BUFFER_SIZE
 const GLenum kReadWrite = 0x88BA;    // GL_READ_WRITE
 const char* const kSource = "ogl/Buffer.cpp";
-
-GLint integer(GLenum name)
-{
-    GLint value = -1;
-    glGetIntegerv(name, &value);
-    return value;
-}
 
 class BufferGLTest : public OruTest::LayerGLTest
 {
@@ -54,13 +49,9 @@ protected:
 
 } // namespace
 
-TEST_F(BufferGLTest, SupportedOnTheDriver)
+TEST_F(BufferGLTest, SupportedAndTheUsageNumberChoosesTheRoleAndTheTypeIsIgnored)
 {
     EXPECT_TRUE(Buffer::isSupported());
-}
-
-TEST_F(BufferGLTest, TheUsageNumberChoosesTheRoleAndTheTypeIsIgnored)
-{
     Buffer unpack(16, Buffer::eArray, Buffer::eStreamDraw, nullptr);
     EXPECT_TRUE(unpack.isUnpackBuffer());
     EXPECT_EQ(16u, unpack.size());
@@ -92,26 +83,26 @@ TEST_F(BufferGLTest, ConstructionPutsTheUnpackBindingBackOnTheFinalTarget)
     Buffer first(4, Buffer::eUnpack, Buffer::eStreamDraw, nullptr);
     first.bind();
     Buffer second(4, Buffer::eUnpack, Buffer::eStreamDraw, nullptr);
-    EXPECT_EQ(static_cast<GLint>(first.objectID()), integer(kUnpackBinding));
+    EXPECT_EQ(static_cast<GLint>(first.objectID()), glInteger(kUnpackBinding));
     EXPECT_TRUE(first.isBound());
     EXPECT_FALSE(second.isBound());
 
     // A pack buffer gets the unpack target's name on the pack target.
     Buffer pack(4, Buffer::eUnpack, Buffer::eStreamRead, nullptr);
-    EXPECT_EQ(static_cast<GLint>(first.objectID()), integer(kPackBinding));
-    EXPECT_EQ(static_cast<GLint>(first.objectID()), integer(kUnpackBinding));
+    EXPECT_EQ(static_cast<GLint>(first.objectID()), glInteger(kPackBinding));
+    EXPECT_EQ(static_cast<GLint>(first.objectID()), glInteger(kUnpackBinding));
 }
 
 TEST_F(BufferGLTest, RefusedConstructionsCreateNoName)
 {
     GLuint before = 0;
     _cgmGenBuffers(1, &before);
-    EXPECT_TRUE(raises([] { Buffer(0, Buffer::eUnpack, Buffer::eStreamDraw, nullptr); }, kSource, 0,
-                       "Range error: nSize > 0"));
-    EXPECT_TRUE(raises([] { Buffer(-5, Buffer::eUnpack, Buffer::eStreamDraw, nullptr); }, kSource, 0,
-                       "Range error: nSize > 0"));
-    EXPECT_TRUE(raises([] { Buffer(4, Buffer::eUnpack, static_cast<Buffer::Usage>(9), nullptr); }, kSource, 0,
-                       "!\"Buffer type enums are not all properly translated.\""));
+    expectRefusals(kSource, {
+        { 0, "Range error: nSize > 0", [] { Buffer(0, Buffer::eUnpack, Buffer::eStreamDraw, nullptr); } },
+        { 0, "Range error: nSize > 0", [] { Buffer(-5, Buffer::eUnpack, Buffer::eStreamDraw, nullptr); } },
+        { 0, "!\"Buffer type enums are not all properly translated.\"",
+          [] { Buffer(4, Buffer::eUnpack, static_cast<Buffer::Usage>(9), nullptr); } },
+    });
     GLuint after = 0;
     _cgmGenBuffers(1, &after);
     EXPECT_EQ(before + 1, after) << "a refused buffer took a name";
@@ -126,14 +117,14 @@ TEST_F(BufferGLTest, MapTwiceRefusesAndTheFirstPointerStaysValid)
     unsigned char* p = static_cast<unsigned char*>(buffer.map(kReadWrite));
     ASSERT_NE(nullptr, p);
     EXPECT_TRUE(buffer.isMapped());
-    EXPECT_TRUE(raises([&] { buffer.map(kReadWrite); }, kSource, 0,
-                       "Buffer is already mapped (this will cause a GL error)"));
+    expectRefusals(kSource,
+                   { { 0, "Buffer is already mapped (this will cause a GL error)", [&] { buffer.map(kReadWrite); } } });
     for (int i = 0; i < 8; ++i)
         p[i] = static_cast<unsigned char>(10 + i);
     buffer.unmap();
     EXPECT_FALSE(buffer.isMapped());
-    EXPECT_TRUE(raises([&] { buffer.unmap(); }, kSource, 0,
-                       "Buffer must be mapped before umapping it (this will cause a GL error)"));
+    expectRefusals(kSource, { { 0, "Buffer must be mapped before umapping it (this will cause a GL error)",
+                                [&] { buffer.unmap(); } } });
 
     unsigned char back[8] = {};
     buffer.getSubData(0, 8, back);
@@ -146,22 +137,18 @@ TEST_F(BufferGLTest, SubDataChecksMappedThenPointerThenOffset)
     Buffer buffer(8, Buffer::eUnpack, Buffer::eStreamDraw, nullptr);
     buffer.bind();
     unsigned char data[4] = { 5, 6, 7, 8 };
-    EXPECT_TRUE(raises([&] { buffer.subData(0, 4, nullptr); }, kSource, 0,
-                       "Buffer::subData pointer to data must not be NULL"));
-    EXPECT_TRUE(raises([&] { buffer.subData(-1, 4, nullptr); }, kSource, 0,
-                       "Buffer::subData pointer to data must not be NULL"));
-    EXPECT_TRUE(raises([&] { buffer.subData(-1, 4, data); }, kSource, 0,
-                       "Buffer::subData offset must not be negative"));
-    EXPECT_TRUE(raises([&] { buffer.getSubData(0, 4, nullptr); }, kSource, 0,
-                       "Buffer::getSubData pointer to data must not be NULL"));
-    EXPECT_TRUE(raises([&] { buffer.getSubData(-1, 4, data); }, kSource, 0,
-                       "Buffer::getSubData offset must not be negative"));
-
+    expectRefusals(kSource, {
+        { 0, "Buffer::subData pointer to data must not be NULL", [&] { buffer.subData(0, 4, nullptr); } },
+        { 0, "Buffer::subData pointer to data must not be NULL", [&] { buffer.subData(-1, 4, nullptr); } },
+        { 0, "Buffer::subData offset must not be negative", [&] { buffer.subData(-1, 4, data); } },
+        { 0, "Buffer::getSubData pointer to data must not be NULL", [&] { buffer.getSubData(0, 4, nullptr); } },
+        { 0, "Buffer::getSubData offset must not be negative", [&] { buffer.getSubData(-1, 4, data); } },
+    });
     buffer.map(kReadWrite);
-    EXPECT_TRUE(raises([&] { buffer.subData(-1, 4, nullptr); }, kSource, 0,
-                       "Buffer::subData buffer cannot be mapped"));
-    EXPECT_TRUE(raises([&] { buffer.getSubData(-1, 4, nullptr); }, kSource, 0,
-                       "Buffer::getSubData buffer cannot be mapped"));
+    expectRefusals(kSource, {
+        { 0, "Buffer::subData buffer cannot be mapped", [&] { buffer.subData(-1, 4, nullptr); } },
+        { 0, "Buffer::getSubData buffer cannot be mapped", [&] { buffer.getSubData(-1, 4, nullptr); } },
+    });
     buffer.unmap();
 
     buffer.subData(4, 4, data);
@@ -174,14 +161,13 @@ TEST_F(BufferGLTest, ConversionRefusedWhileBoundAndFollowedByTheBindingQuery)
 {
     Buffer buffer(4, Buffer::eUnpack, Buffer::eStreamDraw, nullptr);
     buffer.bind();
-    EXPECT_TRUE(raises([&] { buffer.convertToArrayBuffer(); }, kSource, 0,
-                       "Buffer::convertToArrayBuffer cannot convert buffer target while bound"));
-    EXPECT_TRUE(raises([&] { buffer.convertToPackBuffer(); }, kSource, 0,
-                       "Buffer::convertToPackBuffer cannot convert buffer target while bound"));
-    EXPECT_TRUE(raises([&] { buffer.convertToElementArrayBuffer(); }, kSource, 0,
-                       "Buffer::convertToElementArrayBuffer cannot convert buffer target while bound"));
-    EXPECT_TRUE(raises([&] { buffer.convertToUnpackBuffer(); }, kSource, 0,
-                       "Buffer::convertToUnpackBuffer cannot convert buffer target while bound"));
+    const std::string whileBound = " cannot convert buffer target while bound";
+    expectRefusals(kSource, {
+        { 0, "Buffer::convertToArrayBuffer" + whileBound, [&] { buffer.convertToArrayBuffer(); } },
+        { 0, "Buffer::convertToPackBuffer" + whileBound, [&] { buffer.convertToPackBuffer(); } },
+        { 0, "Buffer::convertToElementArrayBuffer" + whileBound, [&] { buffer.convertToElementArrayBuffer(); } },
+        { 0, "Buffer::convertToUnpackBuffer" + whileBound, [&] { buffer.convertToUnpackBuffer(); } },
+    });
     EXPECT_TRUE(buffer.isUnpackBuffer());
 
     // Bound to the array target behind the wrapper's back: not bound as far as
@@ -193,7 +179,7 @@ TEST_F(BufferGLTest, ConversionRefusedWhileBoundAndFollowedByTheBindingQuery)
     buffer.convertToArrayBuffer();
     EXPECT_TRUE(buffer.isArrayBuffer());
     EXPECT_TRUE(buffer.isBound());
-    EXPECT_EQ(static_cast<GLint>(buffer.objectID()), integer(kArrayBinding));
+    EXPECT_EQ(static_cast<GLint>(buffer.objectID()), glInteger(kArrayBinding));
     Buffer::bindDefaultArrayBuffer();
     EXPECT_FALSE(buffer.isBound());
     buffer.convertToElementArrayBuffer();

@@ -22,7 +22,7 @@ using Oru::OGL::Renderbuffer;
 using Oru::OGL::Texture;
 using Oru::OGL::Texture2D;
 using Oru::OGL::TextureUnit;
-using OruTest::raises;
+using OruTest::expectRefusals;
 using F = Oru::OGL::Texture::Format;
 
 namespace
@@ -206,20 +206,20 @@ TEST_F(FramebufferGLTest, TheColourAttachmentLimitAndTheIndexOfDepthAndStencil)
     framebuffer.bind();
     framebuffer.attach(&first, 0, 0);
 
-    EXPECT_TRUE(raises([&] { framebuffer.attach(&last, 0, limit); }, kSource, 0, limitText(limit)));
+    expectRefusals(kSource, { { 0, limitText(limit), [&] { framebuffer.attach(&last, 0, limit); } } });
     EXPECT_EQ(0, attachedName(kColor0 + limit - 1)) << "refused before any GL attachment";
     framebuffer.attach(&last, 0, limit - 1);
     EXPECT_EQ(static_cast<GLint>(last.objectID()), attachedName(kColor0 + limit - 1));
-    EXPECT_TRUE(raises([&] { framebuffer.detach(&last, limit); }, kSource, 0, limitText(limit)));
+    const std::string indexText = "Color buffer index is not supported with attachment:";
+    expectRefusals(kSource, {
+        { 0, limitText(limit), [&] { framebuffer.detach(&last, limit); } },
+        { 0, limitText(limit), [&] { framebuffer.attach(&colour, limit); } },
+        { 0, limitText(limit + 3), [&] { framebuffer.detach(&colour, limit + 3); } },
+        { 0, indexText + TokenName(kDepth), [&] { framebuffer.attach(&depth, 1); } },
+        { 0, indexText + TokenName(kDepth), [&] { framebuffer.detach(&depth, 1); } },
+        { 0, indexText + TokenName(kStencil), [&] { framebuffer.attach(&stencil, 1); } },
+    });
     framebuffer.detach(&last, limit - 1);
-
-    EXPECT_TRUE(raises([&] { framebuffer.attach(&colour, limit); }, kSource, 0, limitText(limit)));
-    EXPECT_TRUE(raises([&] { framebuffer.detach(&colour, limit + 3); }, kSource, 0, limitText(limit + 3)));
-    const std::string depthText = std::string("Color buffer index is not supported with attachment:") + TokenName(kDepth);
-    EXPECT_TRUE(raises([&] { framebuffer.attach(&depth, 1); }, kSource, 0, depthText));
-    EXPECT_TRUE(raises([&] { framebuffer.detach(&depth, 1); }, kSource, 0, depthText));
-    EXPECT_TRUE(raises([&] { framebuffer.attach(&stencil, 1); }, kSource, 0,
-                       std::string("Color buffer index is not supported with attachment:") + TokenName(kStencil)));
     EXPECT_EQ(0, attachedName(kDepth));
 
     if (limit > 1)
@@ -239,23 +239,19 @@ TEST_F(FramebufferGLTest, BindingRefusalsComeInTheirOrder)
     Renderbuffer renderbuffer(GL_RGBA8, 4, 4);
     Framebuffer framebuffer;
     TextureUnit::Unit(0)->bind(&texture);
-    EXPECT_TRUE(raises([&] { framebuffer.attach(&texture, 0, 99); }, kSource, 0,
-                       "Texture cannot be bound during attachment to framebuffer object"));
+    expectRefusals(kSource, { { 0, "Texture cannot be bound during attachment to framebuffer object",
+                                [&] { framebuffer.attach(&texture, 0, 99); } } });
     TextureUnit::Unit(0)->bind2DDefault();
-    EXPECT_TRUE(raises([&] { framebuffer.attach(&texture, 0, 99); }, kSource, 0,
-                       "Framebuffer Objects must be bound to attach objects"));
-    EXPECT_TRUE(raises([&] { framebuffer.attach(&renderbuffer, 99); }, kSource, 0,
-                       "Framebuffer Objects must be bound to attach objects"));
-    EXPECT_TRUE(raises([&] { framebuffer.detach(&texture, 99); }, kSource, 0,
-                       "Framebuffer Object must be bound before detaching objects"));
-    EXPECT_TRUE(raises([&] { framebuffer.detach(&renderbuffer, 99); }, kSource, 0,
-                       "Framebuffer Object must be bound before detaching objects"));
-    EXPECT_TRUE(raises([&] { framebuffer.unbind(); }, kSource, 0,
-                       "Framebuffer object must be bound before calling unbind()"));
-    EXPECT_TRUE(raises([&] { framebuffer.statusOkay(nullptr); }, kSource, 0,
-                       "Framebuffer object must be bound before calling statusOkay()"));
-    EXPECT_TRUE(raises([&] { renderbuffer.unbind(); }, "ogl/Renderbuffer.cpp", 0,
-                       "Framebuffer object must be bound before calling unbind()"));
+    expectRefusals(kSource, {
+        { 0, "Framebuffer Objects must be bound to attach objects", [&] { framebuffer.attach(&texture, 0, 99); } },
+        { 0, "Framebuffer Objects must be bound to attach objects", [&] { framebuffer.attach(&renderbuffer, 99); } },
+        { 0, "Framebuffer Object must be bound before detaching objects", [&] { framebuffer.detach(&texture, 99); } },
+        { 0, "Framebuffer Object must be bound before detaching objects", [&] { framebuffer.detach(&renderbuffer, 99); } },
+        { 0, "Framebuffer object must be bound before calling unbind()", [&] { framebuffer.unbind(); } },
+        { 0, "Framebuffer object must be bound before calling statusOkay()", [&] { framebuffer.statusOkay(nullptr); } },
+    });
+    expectRefusals("ogl/Renderbuffer.cpp",
+                   { { 0, "Framebuffer object must be bound before calling unbind()", [&] { renderbuffer.unbind(); } } });
 }
 
 TEST_F(FramebufferGLTest, AnIncompleteAttachmentIsReportedByItsStatusName)
@@ -287,12 +283,11 @@ TEST_F(FramebufferGLTest, RenderbufferSizeLimitsAndTheBindingPutBack)
     const std::string limitText = std::to_string(limit);
     EXPECT_NO_THROW(Renderbuffer(GL_RGBA8, limit, 1));
     EXPECT_NO_THROW(Renderbuffer(GL_RGBA8, 1, limit));
-    EXPECT_TRUE(raises([&] { Renderbuffer(GL_RGBA8, limit + 1, 1); }, "ogl/Renderbuffer.cpp", 0,
-                       "Can't create renderbuffer of width " + std::to_string(limit + 1) + ", a max width of " +
-                           limitText + " is supported"));
-    EXPECT_TRUE(raises([&] { Renderbuffer(GL_RGBA8, 1, limit + 1); }, "ogl/Renderbuffer.cpp", 0,
-                       "Can't create renderbuffer of width " + std::to_string(limit + 1) + ", a max height of " +
-                           limitText + " is supported"));
+    const std::string tooLarge = "Can't create renderbuffer of width " + std::to_string(limit + 1);
+    expectRefusals("ogl/Renderbuffer.cpp", {
+        { 0, tooLarge + ", a max width of " + limitText + " is supported", [&] { Renderbuffer(GL_RGBA8, limit + 1, 1); } },
+        { 0, tooLarge + ", a max height of " + limitText + " is supported", [&] { Renderbuffer(GL_RGBA8, 1, limit + 1); } },
+    });
 
     Renderbuffer bound(GL_RGBA8, 2, 2);
     bound.bind();
@@ -302,7 +297,5 @@ TEST_F(FramebufferGLTest, RenderbufferSizeLimitsAndTheBindingPutBack)
     EXPECT_EQ(3, other.width());
     EXPECT_EQ(5, other.height());
     bound.unbind();
-    GLint binding = -1;
-    glGetIntegerv(kRenderbufferBinding, &binding);
-    EXPECT_EQ(0, binding);
+    EXPECT_EQ(0, OruTest::glInteger(kRenderbufferBinding));
 }

@@ -16,6 +16,7 @@ using Oru::OGL::FragmentShader;
 using Oru::OGL::Program;
 using Oru::OGL::VertexShader;
 using OruTest::FakeEntryPoint;
+using OruTest::glInteger;
 using OruTest::GLSLGLTest;
 using OruTest::LayerGLTest;
 using OruTest::kFragmentSource;
@@ -80,13 +81,6 @@ void APIENTRY listingGetAttachedShaders(GLuint, GLsizei maxCount, GLsizei* count
     std::copy(gListed.begin(), gListed.begin() + *count, shaders);
 }
 
-GLint currentProgram()
-{
-    GLint current = -1;
-    glGetIntegerv(kCurrentProgram, &current);
-    return current;
-}
-
 GLsizei attachedCount(Program const& program)
 {
     GLuint names[128];
@@ -140,10 +134,10 @@ TEST_F(ProgramGLTest, ValidProgramLinksValidatesAndEnables)
         EXPECT_FALSE(program.isEnabled());
         program.enable();
         EXPECT_TRUE(program.isEnabled());
-        EXPECT_EQ(static_cast<GLint>(name), currentProgram());
+        EXPECT_EQ(static_cast<GLint>(name), glInteger(kCurrentProgram));
         program.disable();
         EXPECT_FALSE(program.isEnabled());
-        EXPECT_EQ(0, currentProgram());
+        EXPECT_EQ(0, glInteger(kCurrentProgram));
     }
     EXPECT_EQ(GL_FALSE, _cgmIsProgram(name));
 }
@@ -162,7 +156,7 @@ TEST_F(ProgramGLTest, StatesAreReadBackAfterEveryLink)
     EXPECT_FALSE(program.isLinked());
     EXPECT_EQ(Raised::at(kProgramFile, 255, "Program must be linked before being enabled"),
               raisedBy([&] { program.enable(); }));
-    EXPECT_EQ(0, currentProgram());
+    EXPECT_EQ(0, glInteger(kCurrentProgram));
 }
 
 TEST_F(ProgramGLTest, AttachRefusesShadersWithoutSource)

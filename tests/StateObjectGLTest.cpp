@@ -62,8 +62,7 @@ TEST_F(StateObjectGLTest, CurrentStateReadsTheColourAndNothingElse)
 
 TEST_F(StateObjectGLTest, TextureCoordinateSetsEndAtTheContextsLimit)
 {
-    GLint limit = 0;
-    glGetIntegerv(0x8871 /* GL_MAX_TEXTURE_COORDS */, &limit);
+    const GLint limit = OruTest::glInteger(0x8871 /* GL_MAX_TEXTURE_COORDS */);
     ASSERT_GT(limit, 0);
     StateObject_2_0 state;
     EXPECT_EQ(static_cast<unsigned long long>(limit), state.maxTextureCoords());

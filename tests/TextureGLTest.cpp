@@ -34,6 +34,7 @@ using Oru::OGL::TextureRECT;
 using Oru::OGL::TextureState;
 using Oru::OGL::TextureUnit;
 using OruTest::expectRefusals;
+using OruTest::glInteger;
 using OruTest::raises;
 using F = Oru::OGL::Texture::Format;
 
@@ -46,23 +47,16 @@ const GLenum kPackBinding = 0x88ED;
 
 typedef std::vector<unsigned char> Bytes;
 
-GLint integer(GLenum name)
-{
-    GLint value = -1;
-    glGetIntegerv(name, &value);
-    return value;
-}
-
 // What a transfer must leave as it found it: every pixel-store mode, the
 // buffer and texture bindings and the active unit.
 std::vector<GLint> callerState()
 {
     std::vector<GLint> state;
     for (int mode = Texture::PACK_SWAP_BYTES; mode <= Texture::UNPACK_ALIGNMENT; ++mode)
-        state.push_back(integer(Texture::PixelStoreMode2GL(static_cast<Texture::PixelStoreMode>(mode))));
+        state.push_back(glInteger(Texture::PixelStoreMode2GL(static_cast<Texture::PixelStoreMode>(mode))));
     for (GLenum binding : { kUnpackBinding, kPackBinding, GLenum(GL_TEXTURE_BINDING_1D), GLenum(GL_TEXTURE_BINDING_2D),
                             GLenum(0x806A) /* 3D */, GLenum(0x84E0) /* active unit */ })
-        state.push_back(integer(binding));
+        state.push_back(glInteger(binding));
     return state;
 }
 
@@ -398,8 +392,8 @@ TEST_F(TextureGLTest, VolumeFromDataUsesTheCallersUnpackStateNotTheParameters)
     ignored.setAlignment(8u);
     glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
     Texture3D volume(Texture::RGBA8, 0, 2, 2, 2, F::RGBA, Texture::UNSIGNED_BYTE, voxels.data(), ignored);
-    EXPECT_EQ(1, integer(GL_UNPACK_ALIGNMENT));
-    EXPECT_EQ(0, integer(GL_UNPACK_SKIP_PIXELS));
+    EXPECT_EQ(1, glInteger(GL_UNPACK_ALIGNMENT));
+    EXPECT_EQ(0, glInteger(GL_UNPACK_SKIP_PIXELS));
     glPixelStorei(GL_UNPACK_ALIGNMENT, 4);
     TextureUnit::Unit(0)->bind(&volume);
     EXPECT_EQ(voxels, readBack(volume, voxels.size()));

@@ -3,6 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <windows.h>
+
+#include <GL/gl.h>
+
 #include <memory>
 #include <string>
 
@@ -16,6 +20,14 @@ class ContextOffscreen;
 
 namespace OruTest
 {
+
+/// The integer state GL reports for name, -1 when it reports nothing.
+inline GLint glInteger(GLenum name)
+{
+    GLint value = -1;
+    glGetIntegerv(name, &value);
+    return value;
+}
 
 /// Fixture for tests of the layer's wrappers: one offscreen context of the
 /// library's own, with the layer started for it, serves the whole program;
