@@ -1,5 +1,6 @@
 // Tracer, recorder and the WGL chain in front of the real driver.
 #include "support/GLTest.h"
+#include "support/Raises.h"
 
 #include "oru_ogl/ExceptionOGL.h"
 #include "oru_ogl/extensionator/OpenGLRekorder.h"
@@ -53,17 +54,9 @@ TEST_F(RecorderGLTest, GLErrorsReachTheCallerThroughTracerAndRecorder)
     OpenGLTracer tracer(trace);
     OpenGLInterceptor::Instance()->addInterceptor(&recorder);
     OpenGLInterceptor::Instance()->addInterceptor(&tracer);
-    try
-    {
-        OpenGLInterceptor::Instance()->cgmEnable("client.cpp", 31, 0xFFFF);
-        ADD_FAILURE() << "no exception";
-    }
-    catch (ExceptionOGL const& e)
-    {
-        EXPECT_EQ(static_cast<unsigned int>(GL_INVALID_ENUM), e.errorNumber());
-        EXPECT_STREQ("client.cpp", e.file());
-        EXPECT_EQ(31, e.line());
-    }
+    const OruTest::Raised raised =
+        OruTest::raisedBy<ExceptionOGL>([] { OpenGLInterceptor::Instance()->cgmEnable("client.cpp", 31, 0xFFFF); });
+    EXPECT_EQ(OruTest::Raised::at("client.cpp", 31, raised.message, GL_INVALID_ENUM), raised);
     OpenGLInterceptor::Instance()->cgmClearColor("client.cpp", 32, 0.25f, 0, 0, 1);
     EXPECT_EQ(&tracer, OpenGLInterceptor::Instance()->popInterceptor());
     EXPECT_EQ(&recorder, OpenGLInterceptor::Instance()->popInterceptor());

@@ -5,7 +5,7 @@
 #include "oru_ogl/extensionator/OpenGLRekorder.h"
 #include "oru_ogl/testing/OperationTable.h"
 
-#include <gtest/gtest.h>
+#include "support/Raises.h"
 
 #include <cmath>
 #include <cstdint>
@@ -523,15 +523,7 @@ TEST_F(RekorderTest, ExceptionsPassThroughAfterTheTextIsWritten)
 {
     OpenGLInterceptor* checker = OpenGLInterceptor::Instance(); // no GL context: glEnd is refused before GL
     OpenGLRekorder recorder(code, data, checker, true);
-    try
-    {
-        recorder.cgmEnd("client.cpp", 77);
-        ADD_FAILURE() << "no exception";
-    }
-    catch (Oru::OGL::ExceptionOGL const& e)
-    {
-        EXPECT_STREQ("Unbalanced glEnd()!", e.message());
-        EXPECT_EQ(77, e.line());
-    }
+    EXPECT_EQ(OruTest::Raised::at("client.cpp", 77, "Unbalanced glEnd()!"),
+              OruTest::raisedBy<Oru::OGL::ExceptionOGL>([&] { recorder.cgmEnd("client.cpp", 77); }));
     EXPECT_EQ("glEnd();\t\t// client.cpp, line 77\n", take());
 }

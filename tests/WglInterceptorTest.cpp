@@ -2,9 +2,7 @@
 // interceptor (no GL context needed).
 #include "oru_ogl/extensionator/windows/wglRekorder.h"
 
-#include "oru_core/Exceptions.h"
-
-#include <gtest/gtest.h>
+#include "support/Raises.h"
 
 #include <functional>
 #include <sstream>
@@ -127,17 +125,8 @@ TEST(WglInterceptorTest, ChainIsBuiltAndTakenDownLikeTheGLChain)
     EXPECT_EQ(&a, b.interceptor());
     EXPECT_EQ(checker, a.interceptor());
 
-    try
-    {
-        wglInterceptor::destroy();
-        ADD_FAILURE() << "destroy() accepted a decorator on top";
-    }
-    catch (Oru::InternalException const& e)
-    {
-        EXPECT_STREQ("Enforce dynamic_cast<wglErrorChecker *>(gInterceptor) != NULL", e.message());
-        EXPECT_STREQ("extensionator/windows/wglInterceptor.cpp", e.file());
-        EXPECT_EQ(47, e.line());
-    }
+    EXPECT_TRUE(OruTest::raises([] { wglInterceptor::destroy(); }, "extensionator/windows/wglInterceptor.cpp", 47,
+                                "Enforce dynamic_cast<wglErrorChecker *>(gInterceptor) != NULL"));
     EXPECT_EQ(&b, wglInterceptor::Instance());
 
     EXPECT_EQ(&b, wglInterceptor::Instance()->popInterceptor());
@@ -245,19 +234,8 @@ TEST_F(WglRekorderTest, UnrecordableFunctionsThrowWithoutCallingWGL)
         { [&] { r.wcgmSwapMultipleBuffers("f", 1, 1, swaps); }, 179 },
     };
     for (auto const& c : cases)
-    {
-        try
-        {
-            c.call();
-            ADD_FAILURE() << "no exception for the function refused at line " << c.line;
-        }
-        catch (Oru::InternalException const& e)
-        {
-            EXPECT_STREQ("!\"Missing code to record this wgl function!\"", e.message());
-            EXPECT_STREQ("extensionator/windows/wglRekorder.cpp", e.file());
-            EXPECT_EQ(c.line, e.line());
-        }
-    }
+        EXPECT_TRUE(OruTest::raises(c.call, "extensionator/windows/wglRekorder.cpp", c.line,
+                                    "!\"Missing code to record this wgl function!\""));
     EXPECT_EQ(0u, fake.calls);
     EXPECT_EQ("", take());
 }
