@@ -187,19 +187,11 @@ TEST(StartupTest, RefusalsBeforeStartUp)
 
 TEST(StartupTest, EnvironmentTranslation)
 {
-    const std::pair<TextureUnit::Environment, unsigned int> table[] = {
-        { TextureUnit::ADD, 0x0104 },     { TextureUnit::BLEND, 0x0BE2 },    { TextureUnit::COMBINE, 0x8570 },
-        { TextureUnit::DECAL, 0x2101 },   { TextureUnit::MODULATE, 0x2100 }, { TextureUnit::REPLACE, 0x1E01 },
-    };
-    for (auto const& row : table)
-    {
-        EXPECT_EQ(row.second, TextureUnit::Environment2GL(row.first));
-        EXPECT_EQ(row.first, TextureUnit::GL2Environment(row.second));
-    }
-    const char* const text = "!\"Environment enums are not all properly translated.\"";
-    EXPECT_EQ(Raised::at("ogl/TextureUnit.cpp", 249, text),
-              raisedBy([] { TextureUnit::Environment2GL(static_cast<TextureUnit::Environment>(6)); }));
-    EXPECT_EQ(text, raisedBy([] { TextureUnit::GL2Environment(0x8571); }).message);
+    // ADD, BLEND, COMBINE, DECAL, MODULATE, REPLACE.
+    OruTest::expectTranslations<TextureUnit::Environment>(
+        "ogl/TextureUnit.cpp", { 0x0104, 0x0BE2, 0x8570, 0x2101, 0x2100, 0x1E01 }, TextureUnit::Environment2GL,
+        TextureUnit::GL2Environment, 0x8571, "Environment enums are not all properly translated.");
+    EXPECT_EQ(249, raisedBy([] { TextureUnit::Environment2GL(static_cast<TextureUnit::Environment>(6)); }).line);
 }
 
 TEST(StartupTest, HiddenWindowsHaveAClassEachAndTakeItAlong)

@@ -11,6 +11,7 @@
 #include <vector>
 
 using Oru::OGL::Texture;
+using OruTest::expectTranslations;
 using OruTest::raises;
 
 namespace
@@ -18,73 +19,44 @@ namespace
 
 const char* const kSource = "ogl/Texture.cpp";
 
-// Every value of an enumeration, in order from 0, against the GL values that
-// the registry gives; both directions, then one value past each end.
-template <class E>
-void expectTable(std::vector<unsigned int> const& gl, unsigned int (*toGL)(E), E (*fromGL)(unsigned int),
-                 unsigned int notInTable, std::string const& text)
-{
-    for (std::size_t value = 0; value < gl.size(); ++value)
-    {
-        const E e = static_cast<E>(value);
-        EXPECT_EQ(gl[value], toGL(e)) << text << " value " << value;
-        EXPECT_EQ(e, fromGL(gl[value])) << text << " value " << value;
-    }
-    const std::string assertion = "!\"" + text + "\"";
-    EXPECT_TRUE(raises([&] { toGL(static_cast<E>(gl.size())); }, kSource, 0, assertion));
-    EXPECT_TRUE(raises([&] { toGL(static_cast<E>(-1)); }, kSource, 0, assertion));
-    EXPECT_TRUE(raises([&] { fromGL(notInTable); }, kSource, 0, assertion));
-}
-
 } // namespace
 
-TEST(TextureTest, TargetsAndBindingsTranslateBothWays)
+// Against the GL values that the registry gives.
+TEST(TextureTest, EveryEnumerationTranslatesBothWays)
 {
-    expectTable<Texture::Target>({ 0x0DE0, 0x0DE1, 0x806F, 0x84F5 }, Texture::Target2GL, Texture::GL2Target,
-                                 0x8513 /* GL_TEXTURE_CUBE_MAP */, "Target enums are not all properly translated.");
-    expectTable<Texture::TargetBinding>({ 0x8068, 0x8069, 0x806A, 0x84F6 }, Texture::TargetBinding2GL,
-                                        Texture::GL2TargetBinding, 0x0DE1,
-                                        "Target enums are not all properly translated.");
-}
-
-TEST(TextureTest, InternalFormatsTranslateBothWays)
-{
-    expectTable<Texture::InternalFormat>(
+    const std::string tail = " enums are not all properly translated.";
+    expectTranslations<Texture::Target>(kSource, { 0x0DE0, 0x0DE1, 0x806F, 0x84F5 }, Texture::Target2GL,
+                                        Texture::GL2Target, 0x8513 /* GL_TEXTURE_CUBE_MAP */, "Target" + tail);
+    expectTranslations<Texture::TargetBinding>(kSource, { 0x8068, 0x8069, 0x806A, 0x84F6 }, Texture::TargetBinding2GL,
+                                               Texture::GL2TargetBinding, 0x0DE1, "Target" + tail);
+    expectTranslations<Texture::InternalFormat>(
+        kSource,
         { 0x1906, 0x803B, 0x803C, 0x803D, 0x803E, 0x1909, 0x803F, 0x8040, 0x8041, 0x8042,
           0x190A, 0x8043, 0x8044, 0x8045, 0x8046, 0x8047, 0x8048, 0x8049, 0x804A, 0x804B,
           0x804C, 0x804D, 0x2A10, 0x1907, 0x804F, 0x8050, 0x8051, 0x8052, 0x8053, 0x8054,
           0x1908, 0x8055, 0x8056, 0x8057, 0x8058, 0x8059, 0x805A, 0x805B, 0x8814, 0x8815,
           0x8816, 0x8817, 0x8818, 0x8819, 0x881A, 0x881B, 0x881C, 0x881D, 0x881E, 0x881F },
-        Texture::InternalFormat2GL, Texture::GL2InternalFormat, 4 /* GL 1.0's component count */,
-        "InternalFormat enums are not all properly translated.");
+        Texture::InternalFormat2GL, Texture::GL2InternalFormat, 4 /* GL 1.0's component count */, "InternalFormat" + tail);
     EXPECT_EQ(Texture::RGBA8, Texture::GL2InternalFormat(0x8058));
     EXPECT_EQ(Texture::RGBA32F, Texture::GL2InternalFormat(0x8814));
-}
-
-TEST(TextureTest, FormatsAndTypesTranslateBothWays)
-{
-    expectTable<Texture::Format>({ 0x1900, 0x1903, 0x1904, 0x1905, 0x1906, 0x1907, 0x80E0, 0x1908, 0x80E1, 0x1909,
-                                   0x190A },
-                                 Texture::Format2GL, Texture::GL2Format, 0x1901 /* GL_STENCIL_INDEX */,
-                                 "Format enums are not all properly translated.");
-    expectTable<Texture::Type>({ 0x1401, 0x1400, 0x1A00, 0x1403, 0x1402, 0x1405, 0x1404, 0x1406, 0x8032, 0x8362,
-                                 0x8363, 0x8364, 0x8033, 0x8365, 0x8034, 0x8366, 0x8035, 0x8367, 0x8036, 0x8368,
-                                 0x140B },
-                               Texture::Type2GL, Texture::GL2Type, 0x140A /* GL_DOUBLE */,
-                               "Type enums are not all properly translated.");
-}
-
-TEST(TextureTest, FiltersWrapModesAndPixelStoreModesTranslateBothWays)
-{
-    expectTable<Texture::Filter>({ 0x2600, 0x2601, 0x2700, 0x2701, 0x2702, 0x2703 }, Texture::Filter2GL,
-                                 Texture::GL2Filter, 0x2704, "Filter enums are not all properly translated.");
+    expectTranslations<Texture::Format>(
+        kSource, { 0x1900, 0x1903, 0x1904, 0x1905, 0x1906, 0x1907, 0x80E0, 0x1908, 0x80E1, 0x1909, 0x190A },
+        Texture::Format2GL, Texture::GL2Format, 0x1901 /* GL_STENCIL_INDEX */, "Format" + tail);
+    expectTranslations<Texture::Type>(kSource,
+                                      { 0x1401, 0x1400, 0x1A00, 0x1403, 0x1402, 0x1405, 0x1404, 0x1406, 0x8032, 0x8362,
+                                        0x8363, 0x8364, 0x8033, 0x8365, 0x8034, 0x8366, 0x8035, 0x8367, 0x8036, 0x8368,
+                                        0x140B },
+                                      Texture::Type2GL, Texture::GL2Type, 0x140A /* GL_DOUBLE */, "Type" + tail);
+    expectTranslations<Texture::Filter>(kSource, { 0x2600, 0x2601, 0x2700, 0x2701, 0x2702, 0x2703 }, Texture::Filter2GL,
+                                        Texture::GL2Filter, 0x2704, "Filter" + tail);
     EXPECT_EQ(Texture::NEAREST_MIPMAP_NEAREST, Texture::GL2Filter(0x2700));
-    expectTable<Texture::WrapMode>({ 0x2900, 0x812D, 0x812F, 0x8370, 0x2901 }, Texture::WrapMode2GL,
-                                   Texture::GL2WrapMode, 0x812E, "WrapMode enums are not all properly translated.");
-    expectTable<Texture::PixelStoreMode>({ 0x0D00, 0x0D01, 0x0D02, 0x806C, 0x0D04, 0x0D03, 0x806B, 0x0D05, 0x0CF0,
-                                           0x0CF1, 0x0CF2, 0x806E, 0x0CF4, 0x0CF3, 0x806D, 0x0CF5 },
-                                         Texture::PixelStoreMode2GL, Texture::GL2PixelStoreMode, 0x0D06,
-                                         "PixelStoreMode enums are not all properly translated.");
+    expectTranslations<Texture::WrapMode>(kSource, { 0x2900, 0x812D, 0x812F, 0x8370, 0x2901 }, Texture::WrapMode2GL,
+                                          Texture::GL2WrapMode, 0x812E, "WrapMode" + tail);
+    expectTranslations<Texture::PixelStoreMode>(kSource,
+                                                { 0x0D00, 0x0D01, 0x0D02, 0x806C, 0x0D04, 0x0D03, 0x806B, 0x0D05, 0x0CF0,
+                                                  0x0CF1, 0x0CF2, 0x806E, 0x0CF4, 0x0CF3, 0x806D, 0x0CF5 },
+                                                Texture::PixelStoreMode2GL, Texture::GL2PixelStoreMode, 0x0D06,
+                                                "PixelStoreMode" + tail);
 }
 
 TEST(TextureTest, ChannelsOfInternalFormatsByGroupWithRGB4Refused)

@@ -12,6 +12,7 @@
 #include <ostream>
 #include <string>
 #include <type_traits>
+#include <vector>
 
 namespace OruTest
 {
@@ -69,6 +70,25 @@ template <class F>
     if (r.raised && r.file == file && (line == 0 || r.line == line) && r.message == message)
         return ::testing::AssertionSuccess();
     return ::testing::AssertionFailure() << r << "; expected " << file << "(" << line << "): " << message;
+}
+
+/// Every value of an enumeration, in order from 0, against the GL values gl
+/// lists: both translations, then the refusals, from file and with
+/// !"text" as the message, of one value past each end and of notInTable.
+template <class E>
+void expectTranslations(char const* file, std::vector<unsigned int> const& gl, unsigned int (*toGL)(E),
+                        E (*fromGL)(unsigned int), unsigned int notInTable, std::string const& text)
+{
+    for (std::size_t value = 0; value < gl.size(); ++value)
+    {
+        const E e = static_cast<E>(value);
+        EXPECT_EQ(gl[value], toGL(e)) << text << " value " << value;
+        EXPECT_EQ(e, fromGL(gl[value])) << text << " value " << value;
+    }
+    const std::string assertion = "!\"" + text + "\"";
+    EXPECT_TRUE(raises([&] { toGL(static_cast<E>(gl.size())); }, file, 0, assertion));
+    EXPECT_TRUE(raises([&] { toGL(static_cast<E>(-1)); }, file, 0, assertion));
+    EXPECT_TRUE(raises([&] { fromGL(notInTable); }, file, 0, assertion));
 }
 
 /// One row of a refusal table: the line (0: any) and message of the
