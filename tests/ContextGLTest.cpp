@@ -154,19 +154,15 @@ TEST_F(ContextGLTest, ExtendedPathNeedsTheLayerAndCleansUpAfterItself)
     {
         const Context::teMultisample samples =
             format.floatingPointColor() || format.redBits() == 10 ? Context::eNoMultisample : Context::e4Samples;
-        try
-        {
-            ContextWindowed context(window.handle(), format, Context::eDoubleBuffered, samples, nullptr);
-            ADD_FAILURE() << "the extended path ran without a started layer";
-        }
-        catch (Oru::InternalException const&)
-        {
-            ADD_FAILURE() << "the recovery must rethrow as a LogicalException";
-        }
-        catch (Oru::LogicalException const& e)
-        {
-            EXPECT_STREQ("Enforce pInstance_ != NULL", e.message());
-        }
+        // A LogicalException that is not an InternalException passes through
+        // the inner catch to the outer one.
+        EXPECT_EQ("Enforce pInstance_ != NULL", failureOf([&] {
+                      EXPECT_FALSE(OruTest::raisedBy<Oru::InternalException>([&] {
+                                       ContextWindowed context(window.handle(), format, Context::eDoubleBuffered,
+                                                               samples, nullptr);
+                                   }).raised)
+                          << "the recovery must rethrow as a LogicalException";
+                  }));
         EXPECT_EQ(nullptr, wglGetCurrentContext());
         EXPECT_EQ(windowsBefore, windowsOfThisThread()) << "a hidden window was left behind";
     }

@@ -10,7 +10,6 @@
 #include <GL/gl.h>
 
 using Oru::OGL::StateObject_2_0;
-using OruTest::raises;
 
 namespace
 {
@@ -69,10 +68,10 @@ TEST_F(StateObjectGLTest, TextureCoordinateSetsEndAtTheContextsLimit)
     const unsigned long long last = state.maxTextureCoords() - 1;
     expectFloat4(0.0f, 0.0f, 0.0f, 1.0f, state.currentTextureCoords(last));
     expectFloat4(0.0f, 0.0f, 0.0f, 1.0f, state.currentRasterTextureCoords(0));
-    EXPECT_TRUE(raises([&] { state.currentTextureCoords(last + 1); }, "ogl/StateObject.cpp", 0,
-                       "iTexture < maxTextureCoords()"));
-    EXPECT_TRUE(raises([&] { state.currentRasterTextureCoords(last + 1); }, "ogl/StateObject.cpp", 0,
-                       "iTexture < maxTextureCoords()"));
+    OruTest::expectRefusals("ogl/StateObject.cpp", {
+        { 0, "iTexture < maxTextureCoords()", [&] { state.currentTextureCoords(last + 1); } },
+        { 0, "iTexture < maxTextureCoords()", [&] { state.currentRasterTextureCoords(last + 1); } },
+    });
 }
 
 TEST_F(StateObjectGLTest, CopiesKeepTheirOwnValues)

@@ -38,12 +38,13 @@ struct VersionResource
 VersionResource readVersionResource(char const* moduleName)
 {
     VersionResource resource;
+    auto fail = [&resource](std::string const& why) {
+        resource.error = why;
+        return resource;
+    };
     const HMODULE module = GetModuleHandleA(moduleName);
     if (!module)
-    {
-        resource.error = std::string(moduleName) + " is not loaded";
-        return resource;
-    }
+        return fail(std::string(moduleName) + " is not loaded");
     char path[MAX_PATH] = {};
     GetModuleFileNameA(module, path, MAX_PATH);
     resource.path = path;
@@ -51,25 +52,16 @@ VersionResource readVersionResource(char const* moduleName)
     DWORD ignored = 0;
     const DWORD size = GetFileVersionInfoSizeA(path, &ignored);
     if (size == 0)
-    {
-        resource.error = resource.path + " has no version resource";
-        return resource;
-    }
+        return fail(resource.path + " has no version resource");
     resource.data.resize(size);
     if (!GetFileVersionInfoA(path, 0, size, resource.data.data()))
-    {
-        resource.error = "GetFileVersionInfoA failed for " + resource.path;
-        return resource;
-    }
+        return fail("GetFileVersionInfoA failed for " + resource.path);
 
     VS_FIXEDFILEINFO* fixed = nullptr;
     UINT length = 0;
     if (!VerQueryValueA(resource.data.data(), "\\", reinterpret_cast<void**>(&fixed), &length) || !fixed ||
         length < sizeof(VS_FIXEDFILEINFO))
-    {
-        resource.error = resource.path + " has no fixed file information";
-        return resource;
-    }
+        return fail(resource.path + " has no fixed file information");
     resource.fixed = *fixed;
 
     // The string table of the first language and code page listed.
@@ -77,10 +69,7 @@ VersionResource readVersionResource(char const* moduleName)
     if (!VerQueryValueA(resource.data.data(), "\\VarFileInfo\\Translation", reinterpret_cast<void**>(&translation),
                         &length) ||
         length < 2 * sizeof(WORD))
-    {
-        resource.error = resource.path + " lists no translation";
-        return resource;
-    }
+        return fail(resource.path + " lists no translation");
     char block[64];
     std::snprintf(block, sizeof(block), "\\StringFileInfo\\%04x%04x\\", translation[0], translation[1]);
     resource.block = block;

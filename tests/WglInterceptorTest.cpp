@@ -28,32 +28,12 @@ public:
     std::string last;
 
     BOOL wcgmCopyContext(const char*, unsigned int, HGLRC, HGLRC, UINT) override { return note("CopyContext", 2); }
-    HGLRC wcgmCreateContext(const char*, unsigned int, HDC) override
-    {
-        note("CreateContext", 0);
-        return kContext;
-    }
-    HGLRC wcgmCreateLayerContext(const char*, unsigned int, HDC, int) override
-    {
-        note("CreateLayerContext", 0);
-        return kOther;
-    }
+    HGLRC wcgmCreateContext(const char*, unsigned int, HDC) override { return note("CreateContext", kContext); }
+    HGLRC wcgmCreateLayerContext(const char*, unsigned int, HDC, int) override { return note("CreateLayerContext", kOther); }
     BOOL wcgmDeleteContext(const char*, unsigned int, HGLRC) override { return note("DeleteContext", 3); }
-    HGLRC wcgmGetCurrentContext(const char*, unsigned int) override
-    {
-        note("GetCurrentContext", 0);
-        return kContext;
-    }
-    HDC wcgmGetCurrentDC(const char*, unsigned int) override
-    {
-        note("GetCurrentDC", 0);
-        return kDC;
-    }
-    PROC wcgmGetProcAddress(const char*, unsigned int, LPCSTR) override
-    {
-        note("GetProcAddress", 0);
-        return nullptr;
-    }
+    HGLRC wcgmGetCurrentContext(const char*, unsigned int) override { return note("GetCurrentContext", kContext); }
+    HDC wcgmGetCurrentDC(const char*, unsigned int) override { return note("GetCurrentDC", kDC); }
+    PROC wcgmGetProcAddress(const char*, unsigned int, LPCSTR) override { return note("GetProcAddress", PROC(nullptr)); }
     BOOL wcgmMakeCurrent(const char*, unsigned int, HDC, HGLRC) override { return note("MakeCurrent", 4); }
     BOOL wcgmShareLists(const char*, unsigned int, HGLRC, HGLRC) override { return note("ShareLists", 5); }
     BOOL wcgmUseFontBitmapsA(const char*, unsigned int, HDC, DWORD, DWORD, DWORD) override { return note("", 0); }
@@ -86,7 +66,8 @@ public:
     DWORD wcgmSwapMultipleBuffers(const char*, unsigned int, UINT, const WGLSWAP*) override { return note("", 0); }
 
 private:
-    int note(char const* name, int result)
+    template <class Result>
+    Result note(char const* name, Result result)
     {
         ++calls;
         last = name;
