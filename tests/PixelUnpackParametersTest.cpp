@@ -58,15 +58,12 @@ TEST(PixelUnpackParametersTest, EachFieldKeepsItsOwnValueAndCopiesCarryAll)
 TEST(PixelUnpackParametersTest, AlignmentFromBytesTakesOnlyWhatGLTakes)
 {
     PixelUnpackParameters unpack;
-    const std::pair<unsigned int, PixelUnpackParameters::teAlignment> rows[] = {
-        { 8u, PixelUnpackParameters::ALIGN_8 }, { 2u, PixelUnpackParameters::ALIGN_2 },
-        { 1u, PixelUnpackParameters::ALIGN_1 }, { 4u, PixelUnpackParameters::ALIGN_4 }, // the last one stays
-    };
-    for (auto const& row : rows)
-    {
-        unpack.setAlignment(row.first);
-        EXPECT_EQ(row.second, unpack.alignment()) << row.first;
-    }
+    unpack.setAlignment(8u);
+    EXPECT_EQ(PixelUnpackParameters::ALIGN_8, unpack.alignment());
+    unpack.setAlignment(2u);
+    EXPECT_EQ(PixelUnpackParameters::ALIGN_2, unpack.alignment());
+    unpack.setAlignment(4u);
+    EXPECT_EQ(PixelUnpackParameters::ALIGN_4, unpack.alignment());
 
     const char* const text = "!\"Unsupported aligment in PixelUnpackParameters::setAlignment!\"";
     for (unsigned int bytes : { 0u, 3u, 16u })
@@ -75,4 +72,6 @@ TEST(PixelUnpackParametersTest, AlignmentFromBytesTakesOnlyWhatGLTakes)
             << bytes;
         EXPECT_EQ(PixelUnpackParameters::ALIGN_4, unpack.alignment()) << "unchanged after " << bytes;
     }
+    unpack.setAlignment(1u);
+    EXPECT_EQ(PixelUnpackParameters::ALIGN_1, unpack.alignment());
 }
