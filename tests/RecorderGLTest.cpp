@@ -1,6 +1,7 @@
 // Tracer, recorder and the WGL chain in front of the real driver.
 #include "support/GLTest.h"
 #include "support/Raises.h"
+#include "support/StreamText.h"
 
 #include "oru_ogl/ExceptionOGL.h"
 #include "oru_ogl/extensionator/OpenGLRekorder.h"
@@ -21,16 +22,10 @@ using Oru::OGL::OpenGLTracer;
 using Oru::OGL::wglInterceptor;
 using Oru::OGL::wglRekorder;
 using OruTest::GLTest;
+using OruTest::hexDigits;
 
 namespace
 {
-
-std::string hexDigits(void const* p)
-{
-    char text[32];
-    std::snprintf(text, sizeof(text), "%llx", static_cast<unsigned long long>(reinterpret_cast<std::uintptr_t>(p)));
-    return text;
-}
 
 class RecorderGLTest : public GLTest
 {

@@ -4,6 +4,7 @@
 #include "oru_ogl/extensionator/OpenGLErrorChecker.h"
 #include "oru_ogl/extensionator/OpenGLRekorder.h"
 #include "oru_ogl/testing/OperationTable.h"
+#include "support/StreamText.h"
 
 #include "support/Raises.h"
 
@@ -18,6 +19,7 @@
 
 using Oru::OGL::OpenGLInterceptor;
 using Oru::OGL::OpenGLRekorder;
+using OruTest::hexAddress;
 using OruTest::SilentInterceptor;
 
 namespace
@@ -36,14 +38,6 @@ std::string le64(std::uint64_t value)
 std::string bytesOf(void const* p, std::size_t n)
 {
     return std::string(static_cast<char const*>(p), n);
-}
-
-// How the recorder writes an address: "0" or "0x" and lowercase hex digits.
-std::string hexAddress(void const* p)
-{
-    char text[32];
-    std::snprintf(text, sizeof(text), "%llx", static_cast<unsigned long long>(reinterpret_cast<std::uintptr_t>(p)));
-    return p ? std::string("0x") + text : std::string("0");
 }
 
 // The generic read-back head for a block at `offset`.
@@ -66,12 +60,7 @@ protected:
     OpenGLRekorder plain{ code, data, &bottom, false };
     OpenGLRekorder commented{ code, data, &bottom, true };
 
-    std::string take()
-    {
-        std::string text = code.str();
-        code.str("");
-        return text;
-    }
+    std::string take() { return OruTest::take(code); }
 };
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "oru_ogl/ExceptionOGL.h"
 #include "oru_ogl/extensionator/OpenGLTracer.h"
 #include "oru_ogl/testing/OperationTable.h"
+#include "support/StreamText.h"
 
 #include <gtest/gtest.h>
 
@@ -15,17 +16,11 @@
 
 using Oru::OGL::OpenGLInterceptor;
 using Oru::OGL::OpenGLTracer;
+using OruTest::hexAddress;
 using OruTest::SilentInterceptor;
 
 namespace
 {
-
-std::string hexAddress(void const* p)
-{
-    char text[32];
-    std::snprintf(text, sizeof(text), "0x%llx", static_cast<unsigned long long>(reinterpret_cast<std::uintptr_t>(p)));
-    return text;
-}
 
 class TracerTest : public ::testing::Test
 {
@@ -34,12 +29,7 @@ protected:
     SilentInterceptor bottom;
     OpenGLTracer tracer{ out, &bottom };
 
-    std::string take()
-    {
-        std::string text = out.str();
-        out.str("");
-        return text;
-    }
+    std::string take() { return OruTest::take(out); }
 };
 
 } // namespace

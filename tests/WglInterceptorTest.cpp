@@ -3,6 +3,7 @@
 #include "oru_ogl/extensionator/windows/wglRekorder.h"
 
 #include "support/Raises.h"
+#include "support/StreamText.h"
 
 #include <functional>
 #include <sstream>
@@ -82,12 +83,7 @@ protected:
     std::ostringstream data;
     FakeWgl fake;
 
-    std::string take()
-    {
-        std::string text = code.str();
-        code.str("");
-        return text;
-    }
+    std::string take() { return OruTest::take(code); }
 };
 
 } // namespace

@@ -100,6 +100,16 @@ void makeCurrent(HDC dc, HGLRC rc)
     }
 }
 
+// A swap presents what the current context drew in the window: keep it as the
+// replay's last frame.
+void presentFrame(Window& window)
+{
+    if (!wglGetCurrentContext())
+        return;
+    gFrame = Oru::Replay::readFramebuffer(window.width(), window.height());
+    ++gPresented;
+}
+
 } // namespace
 
 RecordedFloat makeFloat(int bits)
@@ -158,11 +168,7 @@ BOOL GLRekorderSwapBuffers(HDC recorded)
     Window* window = windowFor(recorded);
     if (!window)
         return FALSE;
-    if (wglGetCurrentContext())
-    {
-        gFrame = Oru::Replay::readFramebuffer(window->width(), window->height());
-        ++gPresented;
-    }
+    presentFrame(*window);
     return SwapBuffers(window->deviceContext());
 }
 
@@ -216,11 +222,7 @@ BOOL oruReplaySwapLayerBuffers(HDC recorded, UINT planes)
     Window* window = windowFor(recorded);
     if (!window)
         return FALSE;
-    if (wglGetCurrentContext())
-    {
-        gFrame = Oru::Replay::readFramebuffer(window->width(), window->height());
-        ++gPresented;
-    }
+    presentFrame(*window);
     return wglSwapLayerBuffers(window->deviceContext(), planes);
 }
 

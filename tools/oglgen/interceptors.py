@@ -88,36 +88,29 @@ def error_checker_chunk(ops):
         if f.name in skip:
             continue
         out.append(signature(f, "OpenGLErrorChecker") + "\n{\n")
-        if f.owner is None:
-            callee = f.name
-        else:
-            callee = f.pointer
-            out.append('    if (!%s)\n        raiseNotLoaded(file, line, "%s");\n' % (f.pointer, f.name))
-        call = "%s(%s)" % (callee, f.argument_list())
-        if f.returns_value:
-            out.append("    %s result = %s;\n" % (f.ret, call))
-            out.append("    checkError(file, line);\n    return result;\n}\n\n")
-        else:
-            out.append("    %s;\n    checkError(file, line);\n}\n\n" % call)
+        out.append("".join("    %s\n" % line for line in checked_call(f, "checkError", "file", "line")))
+        out.append("}\n\n")
     out.append("} // namespace OGL\n} // namespace Oru\n")
     return "".join(out)
 
 
-def checked_call(f, checker):
-    """The error checker's work for one operation as C++ statements, at a call
-    site whose file and line are file_ and line_."""
+def checked_call(f, check, file, line):
+    """The error checker's work for one operation as C++ statements: the call
+    (through its pointer, refused when never loaded) and then `check`, with the
+    caller's file and line named `file` and `line`."""
     out = []
     if f.owner is None:
         callee = "::" + f.name
     else:
         callee = f.pointer
-        out.append('if (!%s)' % f.pointer)
-        out.append('    OpenGLErrorChecker::raiseNotLoaded(file_, line_, "%s");' % f.name)
+        out.append("if (!%s)" % f.pointer)
+        out.append('    OpenGLErrorChecker::raiseNotLoaded(%s, %s, "%s");' % (file, line, f.name))
     call = "%s(%s)" % (callee, f.argument_list())
+    checked = "%s(%s, %s);" % (check, file, line)
     if f.returns_value:
-        out += ["%s result = %s;" % (f.ret, call), "%s->checkError(file_, line_);" % checker, "return result;"]
+        out += ["%s result = %s;" % (f.ret, call), checked, "return result;"]
     else:
-        out += ["%s;" % call, "%s->checkError(file_, line_);" % checker]
+        out += ["%s;" % call, checked]
     return out
 
 
@@ -148,7 +141,8 @@ def call_site_header(c):
             continue
         out.append("    %s%s(%s) const\n    {\n" % (ret, f.name, f.parameter_list()))
         out.append("        if (OpenGLErrorChecker* checker = OpenGLInterceptor::loneChecker())\n")
-        out.append("        {\n%s        }\n" % "".join("            %s\n" % line for line in checked_call(f, "checker")))
+        in_place = checked_call(f, "checker->checkError", "file_", "line_")
+        out.append("        {\n%s        }\n" % "".join("            %s\n" % line for line in in_place))
         out.append("        else\n            %s\n    }\n" % chain)
     out.append("\nprivate:\n    char const* file_;\n    unsigned int line_;\n};\n\n")
     out.append("} // namespace OGL\n} // namespace Oru\n\n")

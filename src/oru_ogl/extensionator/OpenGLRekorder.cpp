@@ -830,9 +830,20 @@ void OpenGLRekorder::cgmTexImage2D(const char* file, unsigned int line, GLenum t
                                    GLint internalformat, GLsizei width, GLsizei height, GLint border, GLenum format,
                                    GLenum type, const GLvoid* pixels)
 {
-    if (!pixels)
+    // Without pixels one plain line; with pixels of a known layout a block read
+    // back into data; with others only pixelBytes' warning.
+    std::uint32_t bytes = 0;
+    const bool block = pixels && pixelBytes(format, type, width, height, bytes);
+    if (!pixels || block)
     {
         CallText t(*outputStream_);
+        if (block)
+        {
+            const std::uint32_t offset = binaryOffset_;
+            writeBlock(bytes, pixels);
+            readBackHead(t, offset, true);
+            t.put("    ");
+        }
         t.put("glTexImage2D(");
         t.enumName(target);
         t.put(", ");
@@ -849,41 +860,19 @@ void OpenGLRekorder::cgmTexImage2D(const char* file, unsigned int line, GLenum t
         t.enumName(format);
         t.put(", ");
         t.enumName(type);
-        t.put(", ");
-        t.address(pixels);
-        t.put(");\n");
-        t.send();
-    }
-    else
-    {
-        std::uint32_t bytes = 0;
-        if (pixelBytes(format, type, width, height, bytes))
+        if (block)
         {
-            const std::uint32_t offset = binaryOffset_;
-            writeBlock(bytes, pixels);
-            CallText t(*outputStream_);
-            readBackHead(t, offset, true);
-            t.put("    glTexImage2D(");
-            t.enumName(target);
-            t.put(", ");
-            t.signedNumber(level);
-            t.put(", ");
-            t.signedNumber(internalformat);
-            t.put(", ");
-            t.signedNumber(width);
-            t.put(", ");
-            t.signedNumber(height);
-            t.put(", ");
-            t.signedNumber(border);
-            t.put(", ");
-            t.enumName(format);
-            t.put(", ");
-            t.enumName(type);
             t.put(", &data[0]);");
             lineEnd(t, file, line);
             t.put("}\n");
-            t.send();
         }
+        else
+        {
+            t.put(", ");
+            t.address(pixels);
+            t.put(");\n");
+        }
+        t.send();
     }
     return pInterceptor_->cgmTexImage2D(file, line, target, level, internalformat, width, height, border, format,
                                         type, pixels);

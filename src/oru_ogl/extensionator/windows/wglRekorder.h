@@ -41,33 +41,9 @@ public:
     wglRekorder(std::ostream& code, std::ostream& data, HDC appDC, wglInterceptor* next, bool lineComments);
     virtual ~wglRekorder();
 
-    BOOL wcgmCopyContext(const char* file, unsigned int line, HGLRC hglrcSrc, HGLRC hglrcDst, UINT mask) override;
-    HGLRC wcgmCreateContext(const char* file, unsigned int line, HDC hdc) override;
-    HGLRC wcgmCreateLayerContext(const char* file, unsigned int line, HDC hdc, int iLayerPlane) override;
-    BOOL wcgmDeleteContext(const char* file, unsigned int line, HGLRC hglrc) override;
-    HGLRC wcgmGetCurrentContext(const char* file, unsigned int line) override;
-    HDC wcgmGetCurrentDC(const char* file, unsigned int line) override;
-    PROC wcgmGetProcAddress(const char* file, unsigned int line, LPCSTR lpszProc) override;
-    BOOL wcgmMakeCurrent(const char* file, unsigned int line, HDC hdc, HGLRC hglrc) override;
-    BOOL wcgmShareLists(const char* file, unsigned int line, HGLRC hglrc1, HGLRC hglrc2) override;
-    BOOL wcgmUseFontBitmapsA(const char* file, unsigned int line, HDC hdc, DWORD first, DWORD count,
-                             DWORD listBase) override;
-    BOOL wcgmUseFontBitmapsW(const char* file, unsigned int line, HDC hdc, DWORD first, DWORD count,
-                             DWORD listBase) override;
-    BOOL wcgmSwapBuffers(const char* file, unsigned int line, HDC hdc) override;
-    BOOL wcgmUseFontOutlinesA(const char* file, unsigned int line, HDC hdc, DWORD first, DWORD count, DWORD listBase,
-                              FLOAT deviation, FLOAT extrusion, int format, LPGLYPHMETRICSFLOAT lpgmf) override;
-    BOOL wcgmUseFontOutlinesW(const char* file, unsigned int line, HDC hdc, DWORD first, DWORD count, DWORD listBase,
-                              FLOAT deviation, FLOAT extrusion, int format, LPGLYPHMETRICSFLOAT lpgmf) override;
-    BOOL wcgmDescribeLayerPlane(const char* file, unsigned int line, HDC hdc, int iPixelFormat, int iLayerPlane,
-                                UINT nBytes, LPLAYERPLANEDESCRIPTOR plpd) override;
-    int wcgmSetLayerPaletteEntries(const char* file, unsigned int line, HDC hdc, int iLayerPlane, int iStart,
-                                   int cEntries, const COLORREF* pcr) override;
-    int wcgmGetLayerPaletteEntries(const char* file, unsigned int line, HDC hdc, int iLayerPlane, int iStart,
-                                   int cEntries, COLORREF* pcr) override;
-    BOOL wcgmRealizeLayerPalette(const char* file, unsigned int line, HDC hdc, int iLayerPlane, BOOL bRealize) override;
-    BOOL wcgmSwapLayerBuffers(const char* file, unsigned int line, HDC hdc, UINT fuPlanes) override;
-    DWORD wcgmSwapMultipleBuffers(const char* file, unsigned int line, UINT n, const WGLSWAP* ps) override;
+#define ORU_WGL_OPERATION_TAIL override
+#include "oru_ogl/extensionator/windows/wglInterceptorOperations.inc"
+#undef ORU_WGL_OPERATION_TAIL
 
 private:
     void send(detail::CallText& t, char const* file, unsigned int line) const;
