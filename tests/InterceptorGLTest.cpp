@@ -9,7 +9,7 @@
 #include "oru_ogl/extensionator/ExtensionCatalogue.h"
 #include "oru_ogl/extensionator/GLCall.h"
 #include "oru_ogl/extensionator/windows/WglEntryPoints.h"
-#include "oru_ogl/testing/ForwardingDecorator.h"
+#include "support/ForwardingDecorator.h"
 
 #include "oru_core/Exceptions.h"
 

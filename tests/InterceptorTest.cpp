@@ -2,7 +2,7 @@
 // pushing and popping decorators, shutdown, and the fixed operation order.
 #include "oru_ogl/ExceptionOGL.h"
 #include "oru_ogl/extensionator/OpenGLErrorChecker.h"
-#include "oru_ogl/testing/ForwardingDecorator.h"
+#include "support/ForwardingDecorator.h"
 
 #include "support/Raises.h"
 

@@ -3,7 +3,7 @@
 #include "oru_ogl/ExceptionOGL.h"
 #include "oru_ogl/extensionator/OpenGLErrorChecker.h"
 #include "oru_ogl/extensionator/OpenGLRekorder.h"
-#include "oru_ogl/testing/OperationTable.h"
+#include "support/OperationTable.h"
 #include "support/StreamText.h"
 
 #include "support/Raises.h"

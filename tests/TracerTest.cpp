@@ -1,7 +1,7 @@
 // The tracer's lines, without a GL context.
 #include "oru_ogl/ExceptionOGL.h"
 #include "oru_ogl/extensionator/OpenGLTracer.h"
-#include "oru_ogl/testing/OperationTable.h"
+#include "support/OperationTable.h"
 #include "support/StreamText.h"
 
 #include <gtest/gtest.h>

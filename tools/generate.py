@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """Generates oru_ogl's tables from the committed catalogue.
 
-    generate.py tokens  CATALOGUE_DIR OUTPUT_DIR
+    generate.py TARGET CATALOGUE_DIR OUTPUT_DIR
+    generate.py --outputs TARGET
 """
 import os
 import sys

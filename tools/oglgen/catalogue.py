@@ -2,7 +2,7 @@
 
 The model checks what the rest of the generator relies on: ids 0 to 334 without
 gaps, GL ids named GL_*, WGL ids named WGL_*, no function under two ids, the GL 1.1
-list in byte order."""
+list in byte order, the WGL 1.0 list of the WGL chain."""
 import os
 import re
 
@@ -10,8 +10,15 @@ SOURCE = "entry_points.txt"
 FIRST_WGL_ID = 301
 LAST_ID = 334
 UNKNOWN_EXTENSION = 378
+# Core versions come first among the ids: OPEN_GL_1_2 to OPEN_GL_2_1.
+CORE_VERSION_COUNT = 6
 
-_PROTOTYPE = re.compile(r"^(?P<ret>.+?)\s*\b(?P<name>w?gl[A-Za-z0-9_]+)\((?P<params>.*)\);$")
+# Section names of the functions that no loader fetches: the system library's
+# GL 1.0/1.1 exports, and the WGL and GDI functions of the WGL chain.
+GL11_SECTION = "GL_1_1"
+WGL10_SECTION = "WGL_1_0"
+
+_PROTOTYPE = re.compile(r"^(?P<ret>.+?)\s*\b(?P<name>[A-Za-z][A-Za-z0-9_]*)\((?P<params>.*)\);$")
 _PARAM = re.compile(r"^(?P<type>.*?)\s*\b(?P<name>[A-Za-z_]\w*)$")
 
 
@@ -41,8 +48,11 @@ class Function:
 
     @property
     def stem(self):
-        """The name without its gl/wgl prefix: DrawRangeElements."""
-        return self.name[3:] if self.is_wgl else self.name[2:]
+        """The name without its gl/wgl prefix: DrawRangeElements; GDI's SwapBuffers
+        stays as it is."""
+        if self.is_wgl:
+            return self.name[3:]
+        return self.name[2:] if self.name.startswith("gl") else self.name
 
     @property
     def pointer(self):
@@ -51,8 +61,8 @@ class Function:
 
     @property
     def operation(self):
-        """The interceptor operation: cgmDrawRangeElements."""
-        return "cgm" + self.stem
+        """The interceptor operation: cgmDrawRangeElements, wcgmMakeCurrent."""
+        return ("wcgm" if self.is_wgl or not self.name.startswith("gl") else "cgm") + self.stem
 
     @property
     def returns_value(self):
@@ -91,8 +101,9 @@ class Extension:
 
 
 class Catalogue:
-    def __init__(self, gl11, extensions):
+    def __init__(self, gl11, wgl10, extensions):
         self.gl11 = gl11                # [Function], byte order
+        self.wgl10 = wgl10              # [Function], the WGL chain's order
         self.extensions = extensions    # [Extension], by id
 
     @property
@@ -118,6 +129,10 @@ class Catalogue:
                         key=lambda e: e.name.encode("ascii"))
         return list(self.gl11) + [f for e in versions + others for f in e.functions]
 
+    def wgl_operations(self):
+        """The WGL and GDI functions of the WGL chain, in its fixed order."""
+        return list(self.wgl10)
+
 
 def _parse_prototype(text, where, owner):
     m = _PROTOTYPE.match(text)
@@ -142,7 +157,7 @@ def _normalise_type(ctype):
 
 def load(catalogue_dir):
     path = os.path.join(catalogue_dir, SOURCE)
-    gl11, extensions, current = [], [], None
+    gl11, wgl10, extensions, current = [], [], [], None
     seen = {}
     with open(path, encoding="utf-8") as f:
         for number, raw in enumerate(f, start=1):
@@ -152,8 +167,11 @@ def load(catalogue_dir):
                 continue
             if line.startswith("@"):
                 fields = line[1:].split()
-                if fields == ["GL_1_1"]:
+                if fields == [GL11_SECTION]:
                     current = "gl11"
+                    continue
+                if fields == [WGL10_SECTION]:
+                    current = "wgl10"
                     continue
                 if len(fields) != 2 or not fields[0].isdigit():
                     raise SystemExit("%s: expected '@ <id> <name>'" % where)
@@ -171,13 +189,19 @@ def load(catalogue_dir):
                 continue
             if current is None:
                 raise SystemExit("%s: prototype before any section" % where)
-            function = _parse_prototype(line, where, None if current == "gl11" else current)
+            function = _parse_prototype(line, where, current if isinstance(current, Extension) else None)
             if function.name in seen:
                 raise SystemExit("%s: %s already listed at %s" % (where, function.name, seen[function.name]))
             seen[function.name] = where
             if current == "gl11":
+                if not function.name.startswith("gl"):
+                    raise SystemExit("%s: %s is not a GL function" % (where, function.name))
                 gl11.append(function)
+            elif current == "wgl10":
+                wgl10.append(function)
             else:
+                if not function.name.startswith(("gl", "wgl")):
+                    raise SystemExit("%s: %s is neither a GL nor a WGL function" % (where, function.name))
                 if function.is_wgl != current.is_wgl:
                     raise SystemExit("%s: %s does not belong under %s" % (where, function.name, current.name))
                 current.functions.append(function)
@@ -186,4 +210,4 @@ def load(catalogue_dir):
     names = [f.name.encode("ascii") for f in gl11]
     if names != sorted(names):
         raise SystemExit("%s: the GL 1.1 functions must be in byte order" % path)
-    return Catalogue(gl11, extensions)
+    return Catalogue(gl11, wgl10, extensions)

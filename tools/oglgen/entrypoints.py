@@ -140,12 +140,18 @@ def catalogue_tables_header(c):
         "} // namespace catalogue\n} // namespace OGL\n} // namespace Oru\n\n#endif\n"])
 
 
+SOURCES = (cat.SOURCE,)
+OUTPUTS = {
+    "extensionator/Extensions.h": extensions_header,
+    "extensionator/EntryPoints.h": gl_pointer_header,
+    "extensionator/windows/WglEntryPoints.h": wgl_pointer_header,
+    "extensionator/EntryPoints.cpp": pointer_definitions,
+    "extensionator/ExtensionCatalogueTables.h": catalogue_tables_header,
+    "extensionator/ExtensionCatalogueTables.cpp": catalogue_tables,
+}
+
+
 def generate(catalogue_dir, output_dir):
     c = cat.load(catalogue_dir)
-    ext = os.path.join(output_dir, "extensionator")
-    write_if_changed(os.path.join(ext, "Extensions.h"), extensions_header(c))
-    write_if_changed(os.path.join(ext, "EntryPoints.h"), gl_pointer_header(c))
-    write_if_changed(os.path.join(ext, "windows", "WglEntryPoints.h"), wgl_pointer_header(c))
-    write_if_changed(os.path.join(ext, "EntryPoints.cpp"), pointer_definitions(c))
-    write_if_changed(os.path.join(ext, "ExtensionCatalogueTables.h"), catalogue_tables_header(c))
-    write_if_changed(os.path.join(ext, "ExtensionCatalogueTables.cpp"), catalogue_tables(c))
+    for path, write in OUTPUTS.items():
+        write_if_changed(os.path.join(output_dir, path), write(c))

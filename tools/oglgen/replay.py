@@ -26,7 +26,11 @@ def replay_header(c, token_rows):
     return "".join(out)
 
 
+SOURCES = (cat.SOURCE, tokens.SOURCE)
+OUTPUTS = ("replay/ReplayGL.h",)
+
+
 def generate(catalogue_dir, output_dir):
     c = cat.load(catalogue_dir)
     rows = tokens.read_tokens(catalogue_dir)
-    write_if_changed(os.path.join(output_dir, "replay", "ReplayGL.h"), replay_header(c, rows))
+    write_if_changed(os.path.join(output_dir, OUTPUTS[0]), replay_header(c, rows))

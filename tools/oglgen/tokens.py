@@ -4,6 +4,8 @@ import os
 from .output import banner, write_if_changed
 
 SOURCE = "gl_tokens.tsv"
+SOURCES = (SOURCE,)
+OUTPUTS = ("TokenNameTable.cpp", "TokenNames.inc")
 
 
 def read_tokens(catalogue_dir):
@@ -90,9 +92,9 @@ def generate(catalogue_dir, output_dir):
                "    if (token >= 0x10000u)\n"
                "        return kPool + largeOffset(token);\n"
                "    return kPool + kPages[kPageOf[token >> %d]][token & %du];\n}\n" % (PAGE_BITS, PAGE - 1))
-    write_if_changed(os.path.join(output_dir, "TokenNameTable.cpp"), "".join(out))
+    write_if_changed(os.path.join(output_dir, OUTPUTS[0]), "".join(out))
 
     # The same rows as an X-macro table, for the tests.
     rows_def = [banner(SOURCE), "// ORU_TOKEN(value, name); no include guard.\n"]
     rows_def += ["ORU_TOKEN(0x%04Xu, %s)\n" % (value, name) for value, name in rows]
-    write_if_changed(os.path.join(output_dir, "TokenNames.inc"), "".join(rows_def))
+    write_if_changed(os.path.join(output_dir, OUTPUTS[1]), "".join(rows_def))

@@ -162,6 +162,39 @@ private:
 };
 
 /// A text known at compile time, written with one write.
+// How an argument is written, by its kind in the operations list (the Kinds of
+// a row name these): each kind is one member of CallText.
+namespace argument
+{
+#define ORU_ARGUMENT_KIND(Kind, member)                                                                  \
+    struct Kind                                                                                            \
+    {                                                                                                      \
+        template <class Value>                                                                             \
+        static void write(CallText& text, Value value) { text.member(value); }                             \
+    };
+ORU_ARGUMENT_KIND(EnumName, enumName)
+ORU_ARGUMENT_KIND(Boolean, boolean)
+ORU_ARGUMENT_KIND(UnsignedNumber, unsignedNumber)
+ORU_ARGUMENT_KIND(SignedNumber, signedNumber)
+ORU_ARGUMENT_KIND(Character, character)
+ORU_ARGUMENT_KIND(GlFloat, glFloat)
+ORU_ARGUMENT_KIND(Number, number)
+ORU_ARGUMENT_KIND(HandleARB, handleARB)
+ORU_ARGUMENT_KIND(Text, text)
+ORU_ARGUMENT_KIND(Address, address)
+#undef ORU_ARGUMENT_KIND
+} // namespace argument
+
+// The arguments of a call, each written as its kind says, separated by ", ".
+template <class... Kinds, class... Values>
+inline void writeArguments(CallText& text, Values... values)
+{
+    static_assert(sizeof...(Kinds) == sizeof...(Values), "one kind per argument");
+    bool first = true;
+    (void)first; // no arguments at all
+    ((first ? void(first = false) : text.put(", "), Kinds::write(text, values)), ...);
+}
+
 template <std::size_t N>
 inline void writeLiteral(std::ostream& out, char const (&literal)[N])
 {

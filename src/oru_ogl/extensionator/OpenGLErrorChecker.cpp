@@ -2,10 +2,10 @@
 
 #include "oru_ogl/ExceptionOGL.h"
 #include "oru_ogl/Enforce.h"
+#include "oru_ogl/extensionator/EntryPoints.h"
+#include "oru_ogl/extensionator/OperationList.h"
 
 #include <GL/glu.h>
-
-// The other operations are generated from the catalogue (OpenGLErrorChecker<n>.cpp).
 
 namespace Oru
 {
@@ -18,6 +18,26 @@ OpenGLErrorChecker::OpenGLErrorChecker()
 }
 
 OpenGLErrorChecker::~OpenGLErrorChecker() = default;
+
+// Every operation but glBegin and glEnd: the call, through the system library
+// for GL 1.1 and through its entry-point pointer otherwise, then the check.
+#define ORU_CHECKED_Direct(Ret, Stem, Params, Args)                                                    \
+    Ret OpenGLErrorChecker::cgm##Stem(const char* file, unsigned int line ORU_OP_TAIL Params)          \
+    {                                                                                                  \
+        return perform(file, line, ::gl##Stem ORU_OP_TAIL Args);                                       \
+    }
+#define ORU_CHECKED_Loaded(Ret, Stem, Params, Args)                                                    \
+    Ret OpenGLErrorChecker::cgm##Stem(const char* file, unsigned int line ORU_OP_TAIL Params)          \
+    {                                                                                                  \
+        return perform(file, line, loaded(_cgm##Stem, file, line, "gl" #Stem) ORU_OP_TAIL Args);       \
+    }
+#define ORU_CHECKED_Bracket(Ret, Stem, Params, Args) // below
+#define ORU_GL_OPERATION(Ret, Stem, Owner, Call, Record, Params, Args, Kinds) \
+    ORU_CHECKED_##Call(Ret, Stem, Params, Args)
+#include "oru_ogl/extensionator/Operations.def"
+#undef ORU_CHECKED_Direct
+#undef ORU_CHECKED_Loaded
+#undef ORU_CHECKED_Bracket
 
 void OpenGLErrorChecker::cgmBegin(const char* file, unsigned int line, GLenum mode)
 {

@@ -3,6 +3,8 @@
 
 #include "oru_ogl/extensionator/OpenGLInterceptor.h"
 
+#include <type_traits>
+
 namespace Oru
 {
 namespace OGL
@@ -38,6 +40,34 @@ public:
 
     /// Throws InternalException for a call through an entry point that was never loaded.
     [[noreturn]] static void raiseNotLoaded(char const* file, unsigned int line, char const* function);
+
+    /// The checker's work for one operation: calls function with the
+    /// arguments, then checkError(file, line), and returns the call's result.
+    template <class Function, class... Arguments>
+    auto perform(char const* file, unsigned int line, Function function, Arguments... arguments) const
+        -> decltype(function(arguments...))
+    {
+        if constexpr (std::is_void_v<decltype(function(arguments...))>)
+        {
+            function(arguments...);
+            checkError(file, line);
+        }
+        else
+        {
+            auto result = function(arguments...);
+            checkError(file, line);
+            return result;
+        }
+    }
+
+    /// The entry point behind pointer, refused (raiseNotLoaded) when it was never loaded.
+    template <class Pointer>
+    static Pointer loaded(Pointer pointer, char const* file, unsigned int line, char const* function)
+    {
+        if (!pointer)
+            raiseNotLoaded(file, line, function);
+        return pointer;
+    }
 
 private:
     [[noreturn]] static void raiseGLError(char const* file, unsigned int line, GLenum error);

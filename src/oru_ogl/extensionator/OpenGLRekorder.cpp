@@ -1,12 +1,15 @@
 #include "oru_ogl/extensionator/OpenGLRekorder.h"
 
 #include "oru_ogl/extensionator/CallText.h"
+#include "oru_ogl/extensionator/OperationList.h"
 
 #include <cstring>
 
-// The entry points with a recording of their own. Every other operation is
-// generated from the catalogue (OpenGLRekorder<n>.cpp). The ARB and EXT twins
-// here are recorded like their core counterparts, under their own names.
+// Every operation is recorded as its row of the operations list says: as its
+// call text, as a refusal when it takes pointer data the format cannot carry,
+// or by a member of its own below, of the kind the row names (the table of
+// kinds is RECORDER_RULES in tools/oglgen/operations.py). The ARB and EXT twins
+// are recorded like their core counterparts, under their own names.
 //
 // Parts of the recorded format look wrong and are kept, because recordings and
 // the replay programs built from them depend on them:
@@ -23,6 +26,7 @@ namespace OGL
 {
 
 using detail::CallText;
+using namespace detail::argument;
 
 namespace
 {
@@ -113,6 +117,42 @@ void OpenGLRekorder::lineEnd(CallText& t, char const* file, unsigned int line) c
 {
     t.lineEnd(lineComments_, file, line);
 }
+
+// ---------------------------------------------------------------------------
+// The operations recorded as their call text, and those refused.
+
+#define ORU_RECORD_Text(Ret, Stem, Params, Args, Kinds)                                                \
+    Ret OpenGLRekorder::cgm##Stem(const char* file, unsigned int line ORU_OP_TAIL Params)              \
+    {                                                                                                  \
+        CallText oruText(*outputStream_, floatTexts_);                                                 \
+        oruText.put("gl" #Stem "(");                                                                   \
+        detail::writeArguments<ORU_OP_TAIL Kinds>(oruText ORU_OP_TAIL Args);                           \
+        oruText.put(");");                                                                             \
+        oruText.lineEnd(lineComments_, file, line);                                                    \
+        oruText.send();                                                                                \
+        return pInterceptor_->cgm##Stem(file, line ORU_OP_TAIL Args);                                  \
+    }
+#define ORU_RECORD_Unsupported(Ret, Stem, Params, Args, Kinds)                                         \
+    Ret OpenGLRekorder::cgm##Stem(const char* file, unsigned int line ORU_OP_TAIL Params)              \
+    {                                                                                                  \
+        detail::writeLiteral(*outputStream_, "OpenGLRekorderUnsupported(\"Capturing an OpenGL function (gl" #Stem \
+                                             ") with pointer parameter requires a specialized implementation!\");\n"); \
+        return pInterceptor_->cgm##Stem(file, line ORU_OP_TAIL Args);                                  \
+    }
+// The specialised kinds: members of their own, below.
+#define ORU_RECORD_Matrix(...)
+#define ORU_RECORD_NameArray(...)
+#define ORU_RECORD_GeneratedNames(...)
+#define ORU_RECORD_ShaderSources(...)
+#define ORU_RECORD_UniformName(...)
+#define ORU_RECORD_Uniform(...)
+#define ORU_RECORD_Scratch(...)
+#define ORU_RECORD_Vector(...)
+#define ORU_RECORD_Pixels(...)
+#define ORU_RECORD_Comment(...)
+#define ORU_GL_OPERATION(Ret, Stem, Owner, Call, Record, Params, Args, Kinds) \
+    ORU_RECORD_##Record(Ret, Stem, Params, Args, Kinds)
+#include "oru_ogl/extensionator/Operations.def"
 
 // ---------------------------------------------------------------------------
 // Matrices: the 16 elements as one block.
