@@ -64,6 +64,31 @@ TEST(ExceptionTest, ExceptionsAreCaughtAsTheirBasesOnly)
     }
 }
 
+// The root is a class of its own: thrown and caught by value, copied and
+// assigned, and a copy sliced from a derived exception keeps nothing of it.
+TEST(ExceptionTest, TheRootIsThrownAndCaughtByValue)
+{
+    try
+    {
+        throw Oru::ExceptionBase();
+    }
+    catch (Oru::ExceptionBase const& caught)
+    {
+        Oru::ExceptionBase copy(caught);
+        copy = caught;
+        EXPECT_STREQ("Oru::ExceptionBase", copy.what());
+        EXPECT_STREQ("", copy.file());
+        EXPECT_EQ(0, copy.line());
+        EXPECT_STREQ("", copy.message());
+    }
+    const ExceptionOGL derived("client.cpp", 5, "invalid value", 0x0501);
+    const Oru::ExceptionBase sliced = derived;
+    EXPECT_STREQ("Oru::ExceptionBase", sliced.what());
+    EXPECT_EQ(0, sliced.line());
+    EXPECT_THROW(throw sliced, Oru::ExceptionBase);
+    EXPECT_FALSE(caughtAs<Oru::LogicalException>([] { throw Oru::ExceptionBase(); }));
+}
+
 TEST(ExceptionTest, LibraryExceptionNamesItsShortSourcePathLineAndMessage)
 {
     try

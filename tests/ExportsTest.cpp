@@ -36,11 +36,11 @@ TEST(ExportsTest, EveryEntryPointPointerIsExported)
     const std::vector<std::string> names = OruTest::exportedNames("oru_ogl.dll");
     const long gl = std::count_if(names.begin(), names.end(), [](std::string const& n) { return n.rfind("_cgm", 0) == 0; });
     const long wgl = std::count_if(names.begin(), names.end(), [](std::string const& n) { return n.find("_wcgm") != std::string::npos; });
-    EXPECT_EQ(1165, gl);
-    EXPECT_EQ(79, wgl);
+    EXPECT_EQ(Oru::OGL::catalogue::kGLEntryPointCount, static_cast<unsigned long>(gl));
+    EXPECT_EQ(Oru::OGL::catalogue::kWGLEntryPointCount, static_cast<unsigned long>(wgl));
 
     // GL pointers under their plain names: "_cgm" and the name without "gl".
-    for (unsigned int id = 0; id <= 300; ++id)
+    for (unsigned int id = 0; id < Oru::OGL::catalogue::kFirstWGLExtensionId; ++id)
     {
         const Oru::OGL::teExtension ext = static_cast<Oru::OGL::teExtension>(id);
         for (unsigned int k = 0; k < Oru::OGL::ExtensionCatalogue::entryPointCount(ext); ++k)

@@ -225,9 +225,10 @@ bool isIncomplete(DriverReport::Extension const& e) { return e.advertised && !e.
 void printSummary(DriverReport const& report)
 {
     printHeader(report);
-    std::printf("\nCatalogue      GL: %u advertised of 301, %u loaded; WGL: %u advertised of 34, %u loaded\n",
-                countIf(report, false, isAdvertised), countIf(report, false, isLoaded),
-                countIf(report, true, isAdvertised), countIf(report, true, isLoaded));
+    std::printf("\nCatalogue      GL: %u advertised of %u, %u loaded; WGL: %u advertised of %u, %u loaded\n",
+                countIf(report, false, isAdvertised), catalogue::kFirstWGLExtensionId, countIf(report, false, isLoaded),
+                countIf(report, true, isAdvertised), catalogue::kExtensionIdCount - catalogue::kFirstWGLExtensionId,
+                countIf(report, true, isLoaded));
     std::printf("Core versions  loaded:");
     for (unsigned int id = 0; id <= OPEN_GL_2_1; ++id)
     {

@@ -37,7 +37,7 @@ struct DriverReport
     std::string additionalInfo;
     std::string vendorClass;
 
-    std::vector<Extension> extensions;                  // ids 0 to 334
+    std::vector<Extension> extensions;                  // every id of the catalogue
     std::vector<std::pair<std::string, bool>> capabilities;
     unsigned int textureUnits;
     std::vector<std::pair<std::string, int>> limits;

@@ -7,6 +7,26 @@ namespace Oru
 
 ExceptionBase::~ExceptionBase() = default;
 
+char const* ExceptionBase::what() const noexcept
+{
+    return "Oru::ExceptionBase";
+}
+
+char const* ExceptionBase::file() const
+{
+    return "";
+}
+
+int ExceptionBase::line() const
+{
+    return 0;
+}
+
+char const* ExceptionBase::message() const
+{
+    return "";
+}
+
 SourceReport::SourceReport(char const* file, int line, char const* message)
     : file_(file ? file : "")
     , line_(line)

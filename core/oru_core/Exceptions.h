@@ -14,27 +14,28 @@
 namespace Oru
 {
 
-/// Root of the framework's exceptions. Every exception knows the source file
-/// and line that raised it and a message; what() joins the three in one line,
-/// "file(line): message".
+/// Root of the framework's exceptions. The exceptions derived from it know the
+/// source file and line that raised them and a message; their what() joins the
+/// three in one line, "file(line): message". The root itself carries nothing:
+/// thrown by value (or a copy of a sliced exception), it names no place.
 class ORU_CORE_API ExceptionBase : public std::exception
 {
 public:
-    virtual ~ExceptionBase();
-
-    /// Source file of the check that raised the exception.
-    virtual char const* file() const = 0;
-    /// Source line of the check that raised the exception.
-    virtual int line() const = 0;
-    /// The message alone, without file and line.
-    virtual char const* message() const = 0;
-
-protected:
     ExceptionBase() = default;
     /// Copies the exception.
     ExceptionBase(ExceptionBase const&) = default;
     /// Assigns another exception.
     ExceptionBase& operator=(ExceptionBase const&) = default;
+    virtual ~ExceptionBase();
+
+    /// "Oru::ExceptionBase" for the root itself.
+    char const* what() const noexcept override;
+    /// Source file of the check that raised the exception; empty for the root.
+    virtual char const* file() const;
+    /// Source line of the check that raised the exception; 0 for the root.
+    virtual int line() const;
+    /// The message alone, without file and line; empty for the root.
+    virtual char const* message() const;
 };
 
 /// Where and why: the file, line and message shared by the concrete exceptions.

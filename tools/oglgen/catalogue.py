@@ -1,14 +1,14 @@
 """The entry-point catalogue: catalogue/entry_points.txt parsed into a model.
 
-The model checks what the rest of the generator relies on: ids 0 to 334 without
-gaps, GL ids named GL_*, WGL ids named WGL_*, no function under two ids, the GL 1.1
-list in byte order, the WGL 1.0 list of the WGL chain."""
+The model checks what the rest of the generator relies on: ids from 0 without
+gaps, the core versions first, then GL ids named GL_*, then WGL ids named WGL_*,
+no function under two ids, the GL 1.1 list in byte order. The counts that
+follow from the file are its own: the generator writes them as constants."""
 import os
 import re
 
 SOURCE = "entry_points.txt"
-FIRST_WGL_ID = 301
-LAST_ID = 334
+# The id the name look-ups return for a name they do not know; above every id.
 UNKNOWN_EXTENSION = 378
 # Core versions come first among the ids: OPEN_GL_1_2 to OPEN_GL_2_1.
 CORE_VERSION_COUNT = 6
@@ -90,7 +90,7 @@ class Extension:
 
     @property
     def is_wgl(self):
-        return self.id >= FIRST_WGL_ID
+        return self.name.startswith("WGL_")
 
     @property
     def enumerator(self):
@@ -105,6 +105,10 @@ class Catalogue:
         self.gl11 = gl11                # [Function], byte order
         self.wgl10 = wgl10              # [Function], the WGL chain's order
         self.extensions = extensions    # [Extension], by id
+
+    @property
+    def core_versions(self):
+        return self.extensions[:CORE_VERSION_COUNT]
 
     @property
     def gl_extensions(self):
@@ -178,9 +182,12 @@ def load(catalogue_dir):
                 ident = int(fields[0])
                 if ident != len(extensions):
                     raise SystemExit("%s: id %d out of order (expected %d)" % (where, ident, len(extensions)))
-                prefix = "WGL_" if ident >= FIRST_WGL_ID else "GL_"
-                if not fields[1].startswith(prefix):
-                    raise SystemExit("%s: id %d must be named %s..." % (where, ident, prefix))
+                if ident < CORE_VERSION_COUNT and not fields[1].startswith("GL_VERSION_"):
+                    raise SystemExit("%s: ids below %d are core versions (GL_VERSION_...)" % (where, CORE_VERSION_COUNT))
+                if not fields[1].startswith(("GL_", "WGL_")):
+                    raise SystemExit("%s: %s is neither a GL_ nor a WGL_ name" % (where, fields[1]))
+                if extensions and extensions[-1].name.startswith("WGL_") and not fields[1].startswith("WGL_"):
+                    raise SystemExit("%s: GL ids come before every WGL id" % where)
                 if len(fields[1]) > MAX_NAME_LENGTH:
                     raise SystemExit("%s: %s is longer than the name index takes (%d characters)"
                                      % (where, fields[1], MAX_NAME_LENGTH))
@@ -205,8 +212,8 @@ def load(catalogue_dir):
                 if function.is_wgl != current.is_wgl:
                     raise SystemExit("%s: %s does not belong under %s" % (where, function.name, current.name))
                 current.functions.append(function)
-    if len(extensions) != LAST_ID + 1:
-        raise SystemExit("%s: %d ids, expected %d" % (path, len(extensions), LAST_ID + 1))
+    if len(extensions) >= UNKNOWN_EXTENSION:
+        raise SystemExit("%s: %d ids reach the unknown id %d" % (path, len(extensions), UNKNOWN_EXTENSION))
     names = [f.name.encode("ascii") for f in gl11]
     if names != sorted(names):
         raise SystemExit("%s: the GL 1.1 functions must be in byte order" % path)

@@ -23,11 +23,14 @@ def pointer_typedef(function):
 
 
 def extensions_header(c):
+    versions, gl, wgl = c.core_versions, c.gl_extensions, c.wgl_extensions
+    gl = [e for e in gl if e not in versions]
     out = [banner(cat.SOURCE), "#ifndef %s\n#define %s\n\n" % (GUARD % "EXTENSIONS", GUARD % "EXTENSIONS"),
            "/// \\file\n/// teExtension: the ids of the core versions and extensions the layer knows.\n\n",
            "namespace Oru\n{\nnamespace OGL\n{\n\n",
-           "/// Ids of the core versions (0 to 5), GL extensions (6 to 300) and WGL\n",
-           "/// extensions (301 to 334) that the layer knows. The enumerator is the name\n",
+           "/// Ids of the core versions (%d to %d), GL extensions (%d to %d) and WGL\n"
+           % (versions[0].id, versions[-1].id, gl[0].id, gl[-1].id),
+           "/// extensions (%d to %d) that the layer knows. The enumerator is the name\n" % (wgl[0].id, wgl[-1].id),
            "/// string in capitals; the core versions are OPEN_GL_1_2 to OPEN_GL_2_1.\n",
            "enum teExtension\n{\n"]
     for e in c.extensions:

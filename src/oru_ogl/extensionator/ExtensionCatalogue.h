@@ -2,6 +2,7 @@
 #define ORU_OGL_EXTENSIONATOR_EXTENSIONCATALOGUE_H
 
 #include "oru_ogl/OglExport.h"
+#include "oru_ogl/extensionator/CatalogueCounts.h"
 #include "oru_ogl/extensionator/Extensions.h"
 
 #include <windows.h>
@@ -31,15 +32,15 @@ public:
     /// The same for a WGL name of known length.
     static teExtension wglExtension(char const* name, std::size_t length);
 
-    /// Runs the loader of a GL id (0 to 300): fetches its entry points in order
+    /// Runs the loader of a GL id (below catalogue::kFirstWGLExtensionId): fetches its entry points in order
     /// and stops at the first one the driver lacks. False for any other id.
     static bool loadGL(teExtension id);
-    /// Runs the loader of a WGL id (301 to 334). False for any other id.
+    /// Runs the loader of a WGL id (catalogue::kFirstWGLExtensionId and up). False for any other id.
     static bool loadWGL(teExtension id);
 
-    /// The name string of an id, or null outside 0 to 334.
+    /// The name string of an id, or null from catalogue::kExtensionIdCount on.
     static char const* name(teExtension id);
-    /// How many entry points the loader of an id fetches (0 outside 0 to 334).
+    /// How many entry points the loader of an id fetches (0 from catalogue::kExtensionIdCount on).
     static unsigned int entryPointCount(teExtension id);
     /// The name of an id's entry point by fetch order, or null.
     static char const* entryPointName(teExtension id, unsigned int index);
