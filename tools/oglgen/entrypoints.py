@@ -1,9 +1,7 @@
 """The catalogue's C++ side: teExtension, the exported _cgm/_wcgm pointer
 variables, the name look-ups, one loader per id and the two dispatch functions."""
-import os
-
 from . import catalogue as cat
-from .output import banner, write_if_changed
+from .output import banner, write_all
 
 GUARD = "ORU_OGL_EXTENSIONATOR_%s_H"
 
@@ -155,6 +153,4 @@ OUTPUTS = {
 
 
 def generate(catalogue_dir, output_dir):
-    c = cat.load(catalogue_dir)
-    for path, write in OUTPUTS.items():
-        write_if_changed(os.path.join(output_dir, path), write(c))
+    write_all(output_dir, OUTPUTS, cat.load(catalogue_dir))

@@ -22,10 +22,8 @@ A GL row:
 Params and Args lead with a comma so that they follow the caller's file and
 line directly: cgm##Stem(const char* file, unsigned int line ORU_OPERATION_TAIL Params).
 """
-import os
-
 from . import catalogue as cat
-from .output import banner, write_if_changed
+from .output import banner, write_all
 
 # Scalar GL type -> how its value is written (a member of CallText).
 ARGUMENT_KINDS = {
@@ -208,6 +206,4 @@ OUTPUTS = {
 
 
 def generate(catalogue_dir, output_dir):
-    c = cat.load(catalogue_dir)
-    for path, write in OUTPUTS.items():
-        write_if_changed(os.path.join(output_dir, path), write(c))
+    write_all(output_dir, OUTPUTS, cat.load(catalogue_dir))

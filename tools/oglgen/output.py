@@ -17,3 +17,9 @@ def write_if_changed(path, text):
     with open(tmp, "w", encoding="utf-8", newline="\n") as f:
         f.write(text)
     os.replace(tmp, path)
+
+
+def write_all(output_dir, outputs, model):
+    """Writes each file of a {relative path: function of the model} table."""
+    for path, write in outputs.items():
+        write_if_changed(os.path.join(output_dir, path), write(model))
