@@ -2,6 +2,7 @@
 import sys
 
 from . import entrypoints, interceptors, recorders, replay, tokens
+from . import pointers
 
 TARGETS = {
     "tokens": tokens.generate,
@@ -9,6 +10,7 @@ TARGETS = {
     "interceptors": interceptors.generate,
     "recorders": recorders.generate,
     "replay": replay.generate,
+    "pointers": pointers.generate,
 }
 
 
