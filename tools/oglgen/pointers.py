@@ -176,7 +176,7 @@ def _check_size(row, function, token_names):
                     _fail(row.where, row.function, row.parameter, "size '%s' is not a size" % row.size)
                 scalar(factor)
         return
-    name, args = m.group("name"), [a for a in m.group("args").split(",")]
+    name, args = m.group("name"), m.group("args").split(",")
     if name not in RULE_ARGUMENTS:
         _fail(row.where, row.function, row.parameter, "unknown size rule '%s'" % name)
     kinds = RULE_ARGUMENTS[name]
