@@ -5,13 +5,14 @@
 """
 import sys
 
-from . import entrypoints, operations, replay, tokens
+from . import entrypoints, operations, pointers, replay, tokens
 
 TARGETS = {
     "tokens": tokens,
     "entrypoints": entrypoints,
     "operations": operations,
     "replay": replay,
+    "pointers": pointers,
 }
 
 
