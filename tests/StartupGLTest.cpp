@@ -15,6 +15,7 @@
 #include <memory>
 #include <set>
 #include <sstream>
+#include <stdexcept>
 #include <string>
 
 using namespace Oru::OGL;
@@ -227,6 +228,61 @@ TEST_F(StartupGLTest, AutoInitializerScopes)
         layer.release();
     }
     EXPECT_TRUE(Library::isExtensionatorInitialized());
+}
+
+// A shutdown that fails in ~AutoInitializer (the layer was stopped by hand) is
+// reported, except while another exception leaves the scope: that one is the
+// caller's to see, and a throw would end the program.
+TEST_F(StartupGLTest, AutoInitializerNeverThrowsOverAnUnwindingException)
+{
+    const Raised stoppedByHand = Raised::at("LibraryOGL.cpp", 121, "bExtensionatorInitialized_");
+    EXPECT_EQ(stoppedByHand, raisedBy([] {
+                  AutoInitializer layer(context_.get());
+                  Library::terminateExtensionator();
+              }));
+
+    std::string caught;
+    try
+    {
+        AutoInitializer layer(context_.get());
+        Library::terminateExtensionator();
+        throw std::runtime_error("the caller's");
+    }
+    catch (std::runtime_error const& e)
+    {
+        caught = e.what();
+    }
+    EXPECT_EQ("the caller's", caught);
+
+    // Still started when the exception leaves: stopped all the same.
+    EXPECT_THROW(
+        {
+            AutoInitializer layer(context_.get());
+            throw std::runtime_error("again");
+        },
+        std::runtime_error);
+    EXPECT_FALSE(Library::isExtensionatorInitialized());
+
+    // Made and ended within a destructor that runs during unwinding: no
+    // exception leaves its own scope, so its failure is reported.
+    static Raised inDestructor;
+    struct EndsAnAutoInitializer
+    {
+        ~EndsAnAutoInitializer()
+        {
+            inDestructor = raisedBy([] {
+                AutoInitializer layer(context_.get());
+                Library::terminateExtensionator();
+            });
+        }
+    };
+    EXPECT_THROW(
+        {
+            EndsAnAutoInitializer ends;
+            throw std::runtime_error("outer");
+        },
+        std::runtime_error);
+    EXPECT_EQ(stoppedByHand, inDestructor);
 }
 
 TEST_F(StartupGLTest, TextureUnitTableActsOnTheActiveUnit)

@@ -133,16 +133,28 @@ void Library::terminateExtensionator()
 // (from initializeExtensionator)
 // leaves the outer one owning (and, at its end, stopping) the layer.
 AutoInitializer::AutoInitializer(Context* pContext)
-    : bOwnsInitialization_(true)
+    : bOwnsInitialization_(true), nUncaughtExceptions_(std::uncaught_exceptions())
 {
     ORU_ENFORCE(pContext != NULL);
     Library::initializeExtensionator(pContext, ExtensionManager::InitOptions());
 }
 
+// While another exception leaves the scope, a throw from here would end the
+// program in std::terminate; that exception is the one the caller must see, so
+// a failed shutdown (the layer already stopped by hand, say) is dropped then.
 AutoInitializer::~AutoInitializer() noexcept(false)
 {
-    if (bOwnsInitialization_)
+    if (!bOwnsInitialization_)
+        return;
+    try
+    {
         Library::terminateExtensionator();
+    }
+    catch (...)
+    {
+        if (std::uncaught_exceptions() == nUncaughtExceptions_)
+            throw;
+    }
 }
 
 void AutoInitializer::release()
