@@ -5,6 +5,7 @@
 #include "oru_ogl/extensionator/EntryPoints.h"
 #include "oru_ogl/extensionator/ExtensionCatalogue.h"
 #include "oru_ogl/extensionator/ExtensionManager.h"
+#include "oru_ogl/ogl/ContextAttributes.h"
 #include "oru_ogl/ogl/ContextOffscreen.h"
 #include "oru_ogl/ogl/TextureState.h"
 #include "oru_ogl/ogl/TextureUnit.h"
@@ -211,6 +212,47 @@ TEST_F(StartupGLTest, OptionsAreHandedBack)
     EXPECT_EQ("recordings/session", ExtensionManager::Instance()->initOptions().rekorderPathname());
     EXPECT_FALSE(ExtensionManager::Instance()->initOptions().flushOnMakeCurrentMacOnly());
     EXPECT_FALSE(ExtensionManager::Instance()->initOptions().throwOnNullContext());
+}
+
+// With the option, a 3.0 or later compatibility context (Mesa's default one
+// here) is treated like a 2.1 driver; older drivers get what they got before.
+TEST_F(StartupGLTest, CompatibilityCoreVersionsOption)
+{
+    EXPECT_FALSE(ExtensionManager::InitOptions().compatibilityCoreVersions());
+    ExtensionManager::InitOptions options;
+    options.setCompatibilityCoreVersions(true);
+    Library::initializeExtensionator(context_.get(), options);
+    const Driver d = driver();
+    ExtensionManager* manager = ExtensionManager::Instance();
+    EXPECT_TRUE(manager->initOptions().compatibilityCoreVersions());
+    EXPECT_EQ(d.major, manager->majorVersion()); // reported as it is
+    const bool later = d.major >= 3;
+    const struct
+    {
+        teExtension id;
+        unsigned int major, minor;
+    } cores[] = {{OPEN_GL_1_2, 1, 2}, {OPEN_GL_1_3, 1, 3}, {OPEN_GL_1_4, 1, 4}, {OPEN_GL_1_5, 1, 5}, {OPEN_GL_2_0, 2, 0}};
+    for (auto const& core : cores)
+        EXPECT_EQ(later || d.atLeast(core.major, core.minor), manager->isSupported(core.id)) << core.major << "." << core.minor;
+    EXPECT_EQ(later, manager->isSupported(OPEN_GL_2_1));
+}
+
+// A core profile lacks the fixed-function half the wrappers rely on: no marks.
+TEST_F(StartupGLTest, CompatibilityCoreVersionsLeaveACoreProfileAlone)
+{
+    const Driver d = driver();
+    if (!d.atLeast(3, 2))
+        GTEST_SKIP() << "the driver reports no 3.2, which core profiles need";
+    ContextAttributes core(3, 2);
+    core.setCompatibilityProfile(false);
+    ContextOffscreen coreContext(core);
+    ExtensionManager::InitOptions options;
+    options.setCompatibilityCoreVersions(true);
+    Library::initializeExtensionator(&coreContext, options);
+    for (teExtension id : {OPEN_GL_1_2, OPEN_GL_1_3, OPEN_GL_1_4, OPEN_GL_1_5, OPEN_GL_2_0, OPEN_GL_2_1})
+        EXPECT_FALSE(ExtensionManager::Instance()->isSupported(id)) << id;
+    Library::terminateExtensionator();
+    wglMakeCurrent(nullptr, nullptr);
 }
 
 TEST_F(StartupGLTest, AutoInitializerScopes)
