@@ -51,6 +51,13 @@ struct Logged
     }
 };
 
+PROC WINAPI withoutDebugMessageCallbacks(LPCSTR name)
+{
+    const std::string function(name);
+    return function == "glDebugMessageCallback" || function == "glDebugMessageCallbackARB" ? nullptr
+                                                                                            : wglGetProcAddress(name);
+}
+
 class DriverDebugOutputGLTest : public ::testing::Test
 {
 protected:
@@ -179,4 +186,21 @@ TEST_F(DriverDebugOutputGLTest, OffByDefaultAndRemovedAtShutdown)
     EXPECT_EQ(reinterpret_cast<char const*>(gluErrorString(GL_INVALID_ENUM)),
               raisedBy<ExceptionOGL>([] { ORU_GL glEnable(0); }).message);
     EXPECT_TRUE(logged.empty());
+}
+
+TEST_F(DriverDebugOutputGLTest, StartUpFailsWithoutTheCallbackAndLeavesTheLayerStopped)
+{
+    Library::terminateExtensionator();
+    ExtensionManager::InitOptions options;
+    options.setDriverDebugOutput(true);
+    const ExtensionCatalogue::ProcAddressResolver previous =
+        ExtensionCatalogue::setProcAddressResolver(&withoutDebugMessageCallbacks);
+    const Raised raised = raisedBy([&] { Library::initializeExtensionator(context_.get(), options); });
+    ExtensionCatalogue::setProcAddressResolver(previous);
+    EXPECT_EQ(Raised::at("extensionator/DriverDebugOutput.cpp", 106,
+                         "DriverDebugOutput needs GL_KHR_debug or GL_ARB_debug_output"),
+              raised);
+    EXPECT_FALSE(Library::isExtensionatorInitialized());
+    start(false); // and a start without the option works
+    EXPECT_TRUE(Library::isExtensionatorInitialized());
 }

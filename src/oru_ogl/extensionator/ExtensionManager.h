@@ -40,7 +40,7 @@ public:
     };
 
     /// Start-up options, stored and handed back. The layer reads only those of
-    /// the block on drivers of 3.0 and later; their defaults change nothing.
+    /// the last block, whose defaults change nothing.
     class ORU_OGL_API InitOptions
     {
     public:
@@ -64,7 +64,8 @@ public:
         /// The recorder path name.
         std::string const& rekorderPathname() const;
 
-        // Drivers of 3.0 and later, and their debug output. Off by default.
+        // Today's drivers: their 3.0 and later compatibility contexts, and
+        // their debug output. Off by default.
 
         /// On a driver reporting 3.0 or later in a compatibility context, load
         /// the 1.2 to 2.1 core entry points and mark those versions supported.
