@@ -182,7 +182,7 @@ TEST_F(DriverDebugOutputGLTest, OffByDefaultAndRemovedAtShutdown)
     insertMessage(kTypeError, 42, kSeverityHigh, "without the option");
     const Raised raised = raisedBy<ExceptionOGL>([] { ORU_GL glFlush(); });
     EXPECT_FALSE(raised.raised) << raised;
-    // The specified text stays without the option.
+    // Without the option a GL error keeps GLU's text.
     EXPECT_EQ(reinterpret_cast<char const*>(gluErrorString(GL_INVALID_ENUM)),
               raisedBy<ExceptionOGL>([] { ORU_GL glEnable(0); }).message);
     EXPECT_TRUE(logged.empty());
