@@ -5,6 +5,7 @@
 #include "oru_ogl/extensionator/EntryPoints.h"
 #include "oru_ogl/extensionator/ExtensionCatalogue.h"
 #include "oru_ogl/extensionator/ExtensionManager.h"
+#include "oru_ogl/ogl/ContextAttributes.h"
 #include "oru_ogl/ogl/ContextOffscreen.h"
 #include "oru_ogl/ogl/TextureState.h"
 #include "oru_ogl/ogl/TextureUnit.h"
@@ -15,6 +16,7 @@
 #include <memory>
 #include <set>
 #include <sstream>
+#include <stdexcept>
 #include <string>
 
 using namespace Oru::OGL;
@@ -212,6 +214,47 @@ TEST_F(StartupGLTest, OptionsAreHandedBack)
     EXPECT_FALSE(ExtensionManager::Instance()->initOptions().throwOnNullContext());
 }
 
+// With the option, a 3.0 or later compatibility context (Mesa's default one
+// here) is treated like a 2.1 driver; older drivers get what they got before.
+TEST_F(StartupGLTest, CompatibilityCoreVersionsOption)
+{
+    EXPECT_FALSE(ExtensionManager::InitOptions().compatibilityCoreVersions());
+    ExtensionManager::InitOptions options;
+    options.setCompatibilityCoreVersions(true);
+    Library::initializeExtensionator(context_.get(), options);
+    const Driver d = driver();
+    ExtensionManager* manager = ExtensionManager::Instance();
+    EXPECT_TRUE(manager->initOptions().compatibilityCoreVersions());
+    EXPECT_EQ(d.major, manager->majorVersion()); // reported as it is
+    const bool later = d.major >= 3;
+    const struct
+    {
+        teExtension id;
+        unsigned int major, minor;
+    } cores[] = {{OPEN_GL_1_2, 1, 2}, {OPEN_GL_1_3, 1, 3}, {OPEN_GL_1_4, 1, 4}, {OPEN_GL_1_5, 1, 5}, {OPEN_GL_2_0, 2, 0}};
+    for (auto const& core : cores)
+        EXPECT_EQ(later || d.atLeast(core.major, core.minor), manager->isSupported(core.id)) << core.major << "." << core.minor;
+    EXPECT_EQ(later, manager->isSupported(OPEN_GL_2_1));
+}
+
+// A core profile lacks the fixed-function half the wrappers rely on: no marks.
+TEST_F(StartupGLTest, CompatibilityCoreVersionsLeaveACoreProfileAlone)
+{
+    const Driver d = driver();
+    if (!d.atLeast(3, 2))
+        GTEST_SKIP() << "the driver reports no 3.2, which core profiles need";
+    ContextAttributes core(3, 2);
+    core.setCompatibilityProfile(false);
+    ContextOffscreen coreContext(core);
+    ExtensionManager::InitOptions options;
+    options.setCompatibilityCoreVersions(true);
+    Library::initializeExtensionator(&coreContext, options);
+    for (teExtension id : {OPEN_GL_1_2, OPEN_GL_1_3, OPEN_GL_1_4, OPEN_GL_1_5, OPEN_GL_2_0, OPEN_GL_2_1})
+        EXPECT_FALSE(ExtensionManager::Instance()->isSupported(id)) << id;
+    Library::terminateExtensionator();
+    wglMakeCurrent(nullptr, nullptr);
+}
+
 TEST_F(StartupGLTest, AutoInitializerScopes)
 {
     {
@@ -227,6 +270,61 @@ TEST_F(StartupGLTest, AutoInitializerScopes)
         layer.release();
     }
     EXPECT_TRUE(Library::isExtensionatorInitialized());
+}
+
+// A shutdown that fails in ~AutoInitializer (the layer was stopped by hand) is
+// reported, except while another exception leaves the scope: that one is the
+// caller's to see, and a throw would end the program.
+TEST_F(StartupGLTest, AutoInitializerNeverThrowsOverAnUnwindingException)
+{
+    const Raised stoppedByHand = Raised::at("LibraryOGL.cpp", 121, "bExtensionatorInitialized_");
+    EXPECT_EQ(stoppedByHand, raisedBy([] {
+                  AutoInitializer layer(context_.get());
+                  Library::terminateExtensionator();
+              }));
+
+    std::string caught;
+    try
+    {
+        AutoInitializer layer(context_.get());
+        Library::terminateExtensionator();
+        throw std::runtime_error("the caller's");
+    }
+    catch (std::runtime_error const& e)
+    {
+        caught = e.what();
+    }
+    EXPECT_EQ("the caller's", caught);
+
+    // Still started when the exception leaves: stopped all the same.
+    EXPECT_THROW(
+        {
+            AutoInitializer layer(context_.get());
+            throw std::runtime_error("again");
+        },
+        std::runtime_error);
+    EXPECT_FALSE(Library::isExtensionatorInitialized());
+
+    // Made and ended within a destructor that runs during unwinding: no
+    // exception leaves its own scope, so its failure is reported.
+    static Raised inDestructor;
+    struct EndsAnAutoInitializer
+    {
+        ~EndsAnAutoInitializer()
+        {
+            inDestructor = raisedBy([] {
+                AutoInitializer layer(context_.get());
+                Library::terminateExtensionator();
+            });
+        }
+    };
+    EXPECT_THROW(
+        {
+            EndsAnAutoInitializer ends;
+            throw std::runtime_error("outer");
+        },
+        std::runtime_error);
+    EXPECT_EQ(stoppedByHand, inDestructor);
 }
 
 TEST_F(StartupGLTest, TextureUnitTableActsOnTheActiveUnit)

@@ -15,7 +15,7 @@ namespace
 {
 
 const char kUsage[] =
-    "usage: oglinfo [--full | --json | --version | --help]\n"
+    "usage: oglinfo [--full | --json | --version | --help] [--compatibility-core-versions]\n"
     "\n"
     "Creates an offscreen OpenGL context, starts the oru_ogl layer for it and reports\n"
     "the driver: vendor, renderer and version (and how the layer parsed it), which of\n"
@@ -28,6 +28,9 @@ const char kUsage[] =
     "  --json     everything, as one JSON object\n"
     "  --version  the version of oru_ogl, without creating a context\n"
     "  --help     this text\n"
+    "  --compatibility-core-versions\n"
+    "             start the layer with that option: on a compatibility context of\n"
+    "             3.0 or later the 1.2 to 2.1 cores are loaded and marked\n"
     "\n"
     "Exit status: 0 on success, 1 when no context could be made or the layer could\n"
     "not start, 2 for a bad argument.\n";
@@ -37,6 +40,7 @@ const char kUsage[] =
 int main(int argc, char** argv)
 {
     enum { Summary, Full, Json } mode = Summary;
+    Oru::OGL::ExtensionManager::InitOptions options;
     for (int i = 1; i < argc; ++i)
     {
         if (!std::strcmp(argv[i], "--help") || !std::strcmp(argv[i], "-h"))
@@ -53,6 +57,8 @@ int main(int argc, char** argv)
             mode = Full;
         else if (!std::strcmp(argv[i], "--json"))
             mode = Json;
+        else if (!std::strcmp(argv[i], "--compatibility-core-versions"))
+            options.setCompatibilityCoreVersions(true);
         else
         {
             std::fprintf(stderr, "oglinfo: unknown argument '%s'\n\n%s", argv[i], kUsage);
@@ -63,7 +69,7 @@ int main(int argc, char** argv)
     try
     {
         Oru::OGL::ContextOffscreen context;
-        Oru::OGL::AutoInitializer layer(&context);
+        Oru::OGL::Library::initializeExtensionator(&context, options);
         const DriverReport report = gatherDriverReport();
         if (mode == Json)
             printJson(report);
@@ -71,6 +77,7 @@ int main(int argc, char** argv)
             printFull(report);
         else
             printSummary(report);
+        Oru::OGL::Library::terminateExtensionator();
         wglMakeCurrent(nullptr, nullptr);
     }
     catch (Oru::ExceptionBase const& e)

@@ -95,9 +95,11 @@ void paintWithCheckedCalls()
 
 } // namespace
 
-int main()
+int main(int argc, char** argv)
 {
     std::printf("oru_ogl %s consumer example\n", ORU_OGL_VERSION_STRING);
+    // --compatibility-core-versions: a driver of 3.0 or later counts as 2.1.
+    const bool compatibilityCoreVersions = argc > 1 && std::string(argv[1]) == "--compatibility-core-versions";
     try
     {
         // 1. A context on a hidden window of the layer's own. Creating it does
@@ -105,9 +107,13 @@ int main()
         ContextOffscreen context;
 
         // 2. Start the layer for it: the context is made current, the driver's
-        //    version and extensions are read and the entry points loaded. The
-        //    layer stops when `layer` goes out of scope.
-        AutoInitializer layer(&context);
+        //    version and extensions are read and the entry points loaded.
+        //    Every current driver reports 3.0 or later: with compatibility
+        //    core versions on, its compatibility context gets the 1.2 to 2.1
+        //    marks and the GLSL wrappers work there.
+        ExtensionManager::InitOptions options;
+        options.setCompatibilityCoreVersions(compatibilityCoreVersions);
+        Library::initializeExtensionator(&context, options);
         ExtensionManager* manager = ExtensionManager::Instance();
         std::printf("started on OpenGL %u.%u %s\n", manager->majorVersion(), manager->minorVersion(),
                     manager->additionalVersionInfo().c_str());
@@ -172,6 +178,7 @@ int main()
             check(std::string(e.file()).find("main.cpp") != std::string::npos, "the exception names another file");
             check(e.errorNumber() == GL_INVALID_ENUM, "the error is not GL_INVALID_ENUM");
         }
+        Library::terminateExtensionator();
     }
     catch (Oru::ExceptionBase const& e)
     {

@@ -89,12 +89,12 @@ void Library::initializeExtensionator(Context* pContext, ExtensionManager::InitO
 // recorder; those are the client's. A later start-up, for the same or another
 // context, builds everything anew.
 //
-// Drivers that report 3.0 or later. The manager marks core versions only for
-// major versions 1 and 2, so on such a driver no core-version id is supported
-// and the wrappers that require OpenGL 2.0 (shaders, programs) refuse, while
-// those built on extensions (buffers, framebuffers, textures) work as the
-// extensions allow. An application that knows its driver keeps the 2.0 entry
-// points may fetch them itself after start-up,
+// Drivers that report 3.0 or later. By default the manager marks core versions
+// only for major versions 1 and 2, so on such a driver the wrappers that need
+// OpenGL 2.0 (shaders, programs) refuse. Every current driver is such a one:
+// started with InitOptions::setCompatibilityCoreVersions(true), a compatibility
+// context gets 1.2 to 2.1 marked and every wrapper works. Without the option an
+// application may fetch the 2.0 entry points itself after start-up,
 //
 //     Oru::OGL::ExtensionManager::Instance()->initialize(Oru::OGL::OPEN_GL_2_0);
 //
@@ -133,16 +133,28 @@ void Library::terminateExtensionator()
 // (from initializeExtensionator)
 // leaves the outer one owning (and, at its end, stopping) the layer.
 AutoInitializer::AutoInitializer(Context* pContext)
-    : bOwnsInitialization_(true)
+    : bOwnsInitialization_(true), nUncaughtExceptions_(std::uncaught_exceptions())
 {
     ORU_ENFORCE(pContext != NULL);
     Library::initializeExtensionator(pContext, ExtensionManager::InitOptions());
 }
 
+// While another exception leaves the scope, a throw from here would end the
+// program in std::terminate; that exception is the one the caller must see, so
+// a failed shutdown (the layer already stopped by hand, say) is dropped then.
 AutoInitializer::~AutoInitializer() noexcept(false)
 {
-    if (bOwnsInitialization_)
+    if (!bOwnsInitialization_)
+        return;
+    try
+    {
         Library::terminateExtensionator();
+    }
+    catch (...)
+    {
+        if (std::uncaught_exceptions() == nUncaughtExceptions_)
+            throw;
+    }
 }
 
 void AutoInitializer::release()

@@ -4,6 +4,8 @@
 #include "oru_ogl/OglExport.h"
 #include "oru_ogl/extensionator/ExtensionManager.h"
 
+#include <exception> // std::uncaught_exceptions, for ~AutoInitializer
+
 namespace Oru
 {
 namespace OGL
@@ -33,7 +35,8 @@ private:
     static bool bExtensionatorInitialized_;
 };
 
-/// Starts the layer with default options for the life of a scope.
+/// Starts the layer with default options for the life of a scope. Its destructor
+/// throws a failed shutdown only when no exception is leaving the scope.
 class ORU_OGL_API AutoInitializer
 {
 public:
@@ -48,6 +51,7 @@ public:
 
 private:
     bool bOwnsInitialization_;
+    int nUncaughtExceptions_; // at construction: more at destruction means unwinding
 };
 
 } // namespace OGL

@@ -1,10 +1,10 @@
-# cmake -DPROGRAM=<exe> [-DEMULATOR=<runner>] -DPAINTING=<text> -P RunProgram.cmake
+# cmake -DPROGRAM=<exe> [-DEMULATOR=<runner>] [-DARGS=<argument>] -DPAINTING=<text> -P RunProgram.cmake
 # Runs the consumer example and fails unless it exits with 0, says that it
 # painted the way PAINTING names, shows a caught ExceptionOGL naming
 # main.cpp and a line, and finishes with "all steps passed".
 cmake_minimum_required(VERSION 3.21)
 
-execute_process(COMMAND ${EMULATOR} ${PROGRAM}
+execute_process(COMMAND ${EMULATOR} ${PROGRAM} ${ARGS}
   RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE errors)
 message("${output}${errors}")
 if(NOT status STREQUAL "0")

@@ -8,6 +8,7 @@
 #include "support/LayerGLTest.h"
 #include "support/Raises.h"
 
+#include "oru_ogl/extensionator/ExtensionManager.h"
 #include "oru_ogl/ogl/Program.h"
 #include "oru_ogl/ogl/Shader.h"
 
@@ -67,8 +68,9 @@ inline int driverMajorVersion()
 }
 
 /// For tests of the full behaviour. Where OpenGL 2.0 is not marked (a 1.x
-/// driver, or 3.0 and later), the constructors' refusal is what is tested, so
-/// these tests are skipped there; a 2.x driver without the mark fails instead.
+/// driver, or 3.0 and later without the compatibility-core-versions option),
+/// the constructors' refusal is what is tested, so these tests are skipped
+/// there; a 2.x driver, or a later one with the option, without the mark fails.
 class GLSLGLTest : public LayerGLTest
 {
 protected:
@@ -78,6 +80,9 @@ protected:
         if (Oru::OGL::Shader::isSupported())
             return;
         ASSERT_NE(2, driverMajorVersion()) << "a 2.x driver without OPEN_GL_2_0 marked";
+        ASSERT_FALSE(driverMajorVersion() >= 3 &&
+                     Oru::OGL::ExtensionManager::Instance()->initOptions().compatibilityCoreVersions())
+            << "a compatibility context without OPEN_GL_2_0 marked although the option asks for it";
         GTEST_SKIP() << "OpenGL 2.0 is not marked; the refusal of the constructors is tested instead";
     }
 };

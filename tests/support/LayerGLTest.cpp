@@ -7,6 +7,8 @@
 
 #include <GL/gl.h>
 
+#include <cstdlib>
+
 namespace OruTest
 {
 
@@ -22,7 +24,12 @@ void LayerGLTest::SetUpTestSuite()
     try
     {
         context_.reset(new Oru::OGL::ContextOffscreen());
-        Oru::OGL::Library::initializeExtensionator(context_.get(), Oru::OGL::ExtensionManager::InitOptions());
+        // A configuration of the suite may start the layer with the option for
+        // drivers of 3.0 and later on.
+        Oru::OGL::ExtensionManager::InitOptions options;
+        char const* startOptions = std::getenv("ORU_TEST_START_OPTIONS");
+        options.setCompatibilityCoreVersions(startOptions && std::string(startOptions) == "compatibility-core-versions");
+        Oru::OGL::Library::initializeExtensionator(context_.get(), options);
     }
     catch (Oru::ExceptionBase const& e)
     {

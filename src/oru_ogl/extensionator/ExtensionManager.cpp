@@ -12,7 +12,7 @@
 //     marked supported when all its entry points resolved. A failed version does
 //     not stop the older ones. 2.1 is never loaded here and a major version of 3
 //     or more loads no core version: the layer's wrappers are written against
-//     the 1.x/2.0 entry points, and initialize() fetches those on request;
+//     the 1.x/2.0 entry points (initialize() fetches them, or see the end);
 //  7. every name of GL_EXTENSIONS that the catalogue knows is loaded and, when
 //     its loader succeeds, marked;
 //  8. the same for the WGL extension string, when wglGetExtensionsStringARB
@@ -60,7 +60,7 @@ std::string glText(GLenum name)
 } // namespace
 
 // ---------------------------------------------------------------------------
-// Start-up options: kept for the caller, read by nobody in the layer.
+// Start-up options: the first three are kept for the caller (the others: end of file).
 // ---------------------------------------------------------------------------
 
 ExtensionManager::InitOptions::InitOptions()
@@ -581,10 +581,101 @@ ExtensionManager::ExtensionManager(Context* pContext, InitOptions const& options
 
     loadCoreVersions(nMajorVersion_, nMinorVersion_, supported_);
     const GLubyte* extensions = glGetString(GL_EXTENSIONS); // read in place: thousands of characters
-    loadGLExtensions(extensions ? reinterpret_cast<char const*>(extensions) : "", supported_);
+    char const* extensionText = extensions ? reinterpret_cast<char const*>(extensions) : "";
+    if (options_.compatibilityCoreVersions() && IsCompatibilityContext(nMajorVersion_, nMinorVersion_, extensionText))
+        loadCompatibilityCoreVersions(supported_);
+    loadGLExtensions(extensionText, supported_);
     loadWGLExtensions(supported_);
 
     bNonPowerOfTwo_ = NonPowerOfTwoFlag(vendor_, isSupported(GL_ARB_TEXTURE_NON_POWER_OF_TWO), isSupported(OPEN_GL_2_0));
+    if (options_.driverDebugOutput())
+        debugOutput_.reset(new DriverDebugOutput(options_.debugMessageSeverity(), options_.debugMessageSink()));
+}
+
+// ---------------------------------------------------------------------------
+// Drivers of 3.0 and later. Their compatibility contexts keep every 1.x and
+// 2.x function, so with the option on they are treated like a 2.1 driver: the
+// 1.2 to 2.1 cores are loaded and marked, and the wrappers work there. A core
+// profile lacks the fixed-function half those wrappers rely on and gets none.
+// ---------------------------------------------------------------------------
+
+namespace
+{
+
+const GLenum kContextProfileMask = 0x9126;         // GL_CONTEXT_PROFILE_MASK, 3.2 and later
+const GLint kContextCompatibilityProfileBit = 0x2; // GL_CONTEXT_COMPATIBILITY_PROFILE_BIT
+
+} // namespace
+
+// 3.0 has no profiles; 3.1 keeps the old functions only with GL_ARB_compatibility;
+// from 3.2 on the context says which profile it has.
+bool ExtensionManager::IsCompatibilityContext(unsigned int major, unsigned int minor, char const* extensions)
+{
+    if (major < 3)
+        return false;
+    if (major == 3 && minor == 0)
+        return true;
+    if (major == 3 && minor == 1)
+    {
+        bool compatibility = false;
+        forEachName(extensions, [&compatibility](char const* name, std::size_t length) {
+            compatibility = compatibility || std::string(name, length) == "GL_ARB_compatibility";
+        });
+        return compatibility;
+    }
+    GLint profile = 0;
+    glGetIntegerv(kContextProfileMask, &profile);
+    return (profile & kContextCompatibilityProfileBit) != 0;
+}
+
+void ExtensionManager::loadCompatibilityCoreVersions(std::vector<bool>& supported)
+{
+    markIfLoaded(OPEN_GL_2_1, supported);
+    markIfLoaded(OPEN_GL_2_0, supported);
+    markIfLoaded(OPEN_GL_1_5, supported);
+    markIfLoaded(OPEN_GL_1_4, supported);
+    markIfLoaded(OPEN_GL_1_3, supported);
+    markIfLoaded(OPEN_GL_1_2, supported);
+}
+
+void ExtensionManager::InitOptions::setCompatibilityCoreVersions(bool value)
+{
+    bCompatibilityCoreVersions_ = value;
+}
+
+bool ExtensionManager::InitOptions::compatibilityCoreVersions() const
+{
+    return bCompatibilityCoreVersions_;
+}
+
+void ExtensionManager::InitOptions::setDriverDebugOutput(bool value)
+{
+    bDriverDebugOutput_ = value;
+}
+
+bool ExtensionManager::InitOptions::driverDebugOutput() const
+{
+    return bDriverDebugOutput_;
+}
+
+void ExtensionManager::InitOptions::setDebugMessageSeverity(DriverDebugOutput::teSeverity minimum)
+{
+    debugMessageSeverity_ = minimum;
+}
+
+DriverDebugOutput::teSeverity ExtensionManager::InitOptions::debugMessageSeverity() const
+{
+    return debugMessageSeverity_;
+}
+
+void ExtensionManager::InitOptions::setDebugMessageSink(DriverDebugOutput::Sink const& sink)
+{
+    debugMessageSink_ = sink;
+}
+
+DriverDebugOutput::Sink const& ExtensionManager::InitOptions::debugMessageSink() const
+{
+    return debugMessageSink_;
 }
 
 } // namespace OGL

@@ -2,8 +2,10 @@
 #define ORU_OGL_EXTENSIONATOR_EXTENSIONMANAGER_H
 
 #include "oru_ogl/OglExport.h"
+#include "oru_ogl/extensionator/DriverDebugOutput.h"
 #include "oru_ogl/extensionator/Extensions.h"
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -23,7 +25,9 @@ class Context;
 /// a major version of 1 or 2: a driver that reports 3.0 or later gets no core-
 /// version id at all (the layer's own wrappers then treat it as lacking them),
 /// and 2.1 is never marked. initialize() fetches the entry points of any id on
-/// request, for instance the OPEN_GL_2_0 functions on such a driver.
+/// request, for instance the OPEN_GL_2_0 functions on such a driver, and
+/// InitOptions::setCompatibilityCoreVersions(true) marks 1.2 to 2.1 on a 3.0 or
+/// later driver whose context has the compatibility profile.
 class ORU_OGL_API ExtensionManager
 {
 public:
@@ -35,7 +39,8 @@ public:
         VENDOR_NVIDIA = 2
     };
 
-    /// Start-up options, stored and handed back; the layer itself reads none.
+    /// Start-up options, stored and handed back. The layer reads only those of
+    /// the last block, whose defaults change nothing.
     class ORU_OGL_API InitOptions
     {
     public:
@@ -59,10 +64,36 @@ public:
         /// The recorder path name.
         std::string const& rekorderPathname() const;
 
+        // Today's drivers: their 3.0 and later compatibility contexts, and
+        // their debug output. Off by default.
+
+        /// On a driver reporting 3.0 or later in a compatibility context, load
+        /// the 1.2 to 2.1 core entry points and mark those versions supported.
+        void setCompatibilityCoreVersions(bool value);
+        /// The compatibility-core-versions option.
+        bool compatibilityCoreVersions() const;
+        /// Install DriverDebugOutput for the start-up context.
+        void setDriverDebugOutput(bool value);
+        /// The driver-debug-output option.
+        bool driverDebugOutput() const;
+        /// The least severity of the messages that are not errors to pass to the sink (default medium).
+        void setDebugMessageSeverity(DriverDebugOutput::teSeverity minimum);
+        /// The least severity passed to the sink.
+        DriverDebugOutput::teSeverity debugMessageSeverity() const;
+        /// Where the messages that are not errors go (default: the standard error stream).
+        void setDebugMessageSink(DriverDebugOutput::Sink const& sink);
+        /// The sink, empty for the standard error stream.
+        DriverDebugOutput::Sink const& debugMessageSink() const;
+
     private:
         bool bThrowOnNullContext_;
         bool bFlushOnMakeCurrentMacOnly_;
         std::string rekorderPathname_;
+
+        bool bCompatibilityCoreVersions_ = false;
+        bool bDriverDebugOutput_ = false;
+        DriverDebugOutput::teSeverity debugMessageSeverity_ = DriverDebugOutput::eMedium;
+        DriverDebugOutput::Sink debugMessageSink_;
     };
 
     /// The instance; throws InternalException while the layer is not started.
@@ -130,6 +161,8 @@ private:
     static void loadCoreVersions(unsigned int major, unsigned int minor, std::vector<bool>& supported);
     static void loadGLExtensions(char const* extensions, std::vector<bool>& supported);
     static void loadWGLExtensions(std::vector<bool>& supported);
+    static bool IsCompatibilityContext(unsigned int major, unsigned int minor, char const* extensions);
+    static void loadCompatibilityCoreVersions(std::vector<bool>& supported);
 
     std::vector<bool> supported_; // by id
     unsigned int nMajorVersion_;
@@ -139,6 +172,7 @@ private:
     teVendor vendor_;
     bool bNonPowerOfTwo_;
     InitOptions options_;
+    std::unique_ptr<DriverDebugOutput> debugOutput_;
 
     static ExtensionManager* pInstance_;
 };

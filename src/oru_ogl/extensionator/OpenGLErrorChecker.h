@@ -1,6 +1,7 @@
 #ifndef ORU_OGL_EXTENSIONATOR_OPENGLERRORCHECKER_H
 #define ORU_OGL_EXTENSIONATOR_OPENGLERRORCHECKER_H
 
+#include "oru_ogl/extensionator/DriverDebugOutput.h"
 #include "oru_ogl/extensionator/OpenGLInterceptor.h"
 
 #include <type_traits>
@@ -28,12 +29,15 @@ public:
     virtual ~OpenGLErrorChecker();
 
     /// The check after each call: throws ExceptionOGL for a pending GL error,
-    /// unless a glBegin/glEnd pair is open.
+    /// unless a glBegin/glEnd pair is open, after handing over the driver's
+    /// debug messages of the call (DriverDebugOutput) when they are on.
     void checkError(char const* file, unsigned int line) const
     {
         if (inBeginEnd_)
             return; // glGetError between glBegin and glEnd is itself an error
         const GLenum error = glGetError();
+        if (DriverDebugOutput::hasPending())
+            DriverDebugOutput::deliver(file, line, error);
         if (error != GL_NO_ERROR)
             raiseGLError(file, line, error);
     }

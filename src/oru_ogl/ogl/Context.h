@@ -3,6 +3,7 @@
 
 #include "oru_ogl/OglExport.h"
 #include "oru_ogl/ogl/BufferFormat.h"
+#include "oru_ogl/ogl/ContextAttributes.h"
 
 #include <windows.h>
 
@@ -83,6 +84,10 @@ protected:
     /// lists; the previously current context is current again afterwards.
     void initialize(HWND window, const BufferFormat& format, teBuffering buffering, teMultisample samples,
                     Context* shareWith);
+    /// Replaces the rendering context that initialize() made with one made by
+    /// wglCreateContextAttribsARB for the attributes, sharing with shareWith
+    /// unless null; the previously current context is current again afterwards.
+    void createVersionedContext(const ContextAttributes& attributes, Context* shareWith);
     /// Shares this context's display lists with those of other.
     void shareLists(HGLRC other);
     /// Deletes the rendering context, keeping another current context current.

@@ -19,6 +19,8 @@ class ORU_OGL_API ContextOffscreen : public Context
 public:
     /// Creates the hidden window and a context on it, sharing with shareWith unless null.
     explicit ContextOffscreen(Context* shareWith = nullptr);
+    /// The same with a versioned context (WGL_ARB_create_context) for the attributes.
+    explicit ContextOffscreen(const ContextAttributes& attributes, Context* shareWith = nullptr);
     virtual ~ContextOffscreen() noexcept(false);
 
     // A copy would share the hidden window and delete it twice.

@@ -11,6 +11,16 @@ ContextWindowed::ContextWindowed(HWND window, const BufferFormat& format, Contex
     initialize(window, format, buffering, samples, shareWith);
 }
 
+// The pixel format is chosen as for any context; the first context made on it
+// is then replaced by the versioned one, which does the sharing.
+ContextWindowed::ContextWindowed(HWND window, const BufferFormat& format, Context::teBuffering buffering,
+                                 Context::teMultisample samples, Context* shareWith,
+                                 const ContextAttributes& attributes)
+{
+    initialize(window, format, buffering, samples, nullptr);
+    createVersionedContext(attributes, shareWith);
+}
+
 ContextWindowed::ContextWindowed() = default;
 
 ContextWindowed::~ContextWindowed() noexcept(false)

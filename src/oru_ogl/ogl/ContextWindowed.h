@@ -16,6 +16,9 @@ public:
     /// A context on the caller's window with the format, buffering and samples asked for, sharing with shareWith unless null.
     ContextWindowed(HWND window, const BufferFormat& format, Context::teBuffering buffering,
                     Context::teMultisample samples, Context* shareWith);
+    /// The same with a versioned context (WGL_ARB_create_context) for the attributes.
+    ContextWindowed(HWND window, const BufferFormat& format, Context::teBuffering buffering,
+                    Context::teMultisample samples, Context* shareWith, const ContextAttributes& attributes);
     virtual ~ContextWindowed() noexcept(false);
 
     // A copy would own nothing and delete what the original owns.

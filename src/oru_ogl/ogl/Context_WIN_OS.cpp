@@ -261,5 +261,70 @@ void Context::destroyContext()
         ORU_VERIFY(!"ContextOffscreen::~ContextOffscreen failed to restore context");
 }
 
+// ---------------------------------------------------------------------------
+// Versioned contexts. WGL hands out wglCreateContextAttribsARB only while a
+// context of the driver is current: the one initialize() made on the same
+// device context (and pixel format) serves for that and is then replaced.
+// Sharing is asked of the new context's creation itself.
+// ---------------------------------------------------------------------------
+
+namespace
+{
+
+typedef HGLRC(WINAPI* CreateContextAttribsARB)(HDC hdc, HGLRC shareWith, const int* attributes);
+typedef const char*(WINAPI* GetExtensionsStringARB)(HDC hdc);
+
+template <class Function>
+Function wglEntryPoint(char const* name)
+{
+    return reinterpret_cast<Function>(reinterpret_cast<void*>(ExtensionCatalogue::resolve(name)));
+}
+
+// Whether the device context's WGL extension string names the extension (whole names only).
+bool wglAdvertises(HDC hdc, std::string const& name)
+{
+    const GetExtensionsStringARB extensionsOf = wglEntryPoint<GetExtensionsStringARB>("wglGetExtensionsStringARB");
+    char const* text = extensionsOf ? extensionsOf(hdc) : nullptr;
+    const std::string names = " " + std::string(text ? text : "") + " ";
+    return names.find(" " + name + " ") != std::string::npos;
+}
+
+} // namespace
+
+void Context::createVersionedContext(const ContextAttributes& attributes, Context* shareWith)
+{
+    const ScopedContextWrapper previous; // whatever happens, the caller's context is current again
+    const HGLRC legacy = hRC_;
+    HGLRC versioned = nullptr;
+    std::ostringstream failure;
+    if (!wglMakeCurrent(hDC_, legacy))
+        failure << "Context::can't make this context current" << GetLastError();
+    else if (!wglEntryPoint<CreateContextAttribsARB>("wglCreateContextAttribsARB"))
+        failure << "Context::createVersionedContext WGL_ARB_create_context not supported";
+    else if (attributes.namesProfile() && !wglAdvertises(hDC_, "WGL_ARB_create_context_profile"))
+        failure << "Context::createVersionedContext WGL_ARB_create_context_profile not supported";
+    else
+    {
+        const std::vector<int> list = attributes.wglAttributes();
+        versioned = wglEntryPoint<CreateContextAttribsARB>("wglCreateContextAttribsARB")(
+            hDC_, shareWith ? shareWith->renderContext() : nullptr, list.data());
+        if (!versioned)
+            failure << "Context::createVersionedContext the driver refused " << attributes.description()
+                    << ". Windows error " << GetLastError();
+        else if (!wglMakeCurrent(hDC_, versioned))
+            failure << "Context::can't make this context current" << GetLastError();
+    }
+    wglMakeCurrent(nullptr, nullptr);
+    wglDeleteContext(legacy);
+    hRC_ = versioned;
+    if (failure.tellp() > 0)
+    {
+        if (versioned)
+            wglDeleteContext(versioned);
+        hRC_ = nullptr;
+        ORU_THROW(failure.str());
+    }
+}
+
 } // namespace OGL
 } // namespace Oru
