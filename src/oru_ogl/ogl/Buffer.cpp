@@ -4,6 +4,7 @@
 #include "oru_ogl/extensionator/EntryPoints.h"
 #include "oru_ogl/extensionator/ExtensionManager.h"
 #include "oru_ogl/ogl/GLConstants.h"
+#include "oru_ogl/ogl/TwoWayTable.h"
 
 // Buffer objects through the GL 1.5 entry points. The extensions are what the
 // constructor requires; the 1.5 names are the same functions. A driver that
@@ -24,44 +25,25 @@ void loadBufferEntryPoints()
         ExtensionManager::Instance()->initialize(OPEN_GL_1_5);
 }
 
-struct TypeRow
-{
-    Buffer::Type type;
-    GLenum target;
-    GLenum bindingQuery;
-};
+// The usage tables share the type tables' text.
+const char* const kUntranslated = "!\"Buffer type enums are not all properly translated.\"";
 
-const TypeRow kTypes[] = {
-    { Buffer::eUnpack, GL_PIXEL_UNPACK_BUFFER, GL_PIXEL_UNPACK_BUFFER_BINDING },
-    { Buffer::ePack, GL_PIXEL_PACK_BUFFER, GL_PIXEL_PACK_BUFFER_BINDING },
-    { Buffer::eArray, GL_ARRAY_BUFFER, GL_ARRAY_BUFFER_BINDING },
-    { Buffer::eElementArray, GL_ELEMENT_ARRAY_BUFFER, GL_ELEMENT_ARRAY_BUFFER_BINDING },
+const TwoWayTable<Buffer::Type>::Row kTypeRows[] = {
+    { Buffer::eUnpack, GL_PIXEL_UNPACK_BUFFER },
+    { Buffer::ePack, GL_PIXEL_PACK_BUFFER },
+    { Buffer::eArray, GL_ARRAY_BUFFER },
+    { Buffer::eElementArray, GL_ELEMENT_ARRAY_BUFFER },
 };
+const TwoWayTable<Buffer::Type> kTypes(kTypeRows, __FILE__, __LINE__, kUntranslated);
 
-struct UsageRow
-{
-    Buffer::Usage usage;
-    GLenum gl;
-};
-
-const UsageRow kUsages[] = {
+const TwoWayTable<Buffer::Usage>::Row kUsageRows[] = {
     { Buffer::eStreamDraw, GL_STREAM_DRAW },   { Buffer::eStreamRead, GL_STREAM_READ },
     { Buffer::eStreamCopy, GL_STREAM_COPY },   { Buffer::eStaticDraw, GL_STATIC_DRAW },
     { Buffer::eStaticRead, GL_STATIC_READ },   { Buffer::eStaticCopy, GL_STATIC_COPY },
     { Buffer::eDynamicDraw, GL_DYNAMIC_DRAW }, { Buffer::eDynamicRead, GL_DYNAMIC_READ },
     { Buffer::eDynamicCopy, GL_DYNAMIC_COPY },
 };
-
-TypeRow const& row(Buffer::Type type)
-{
-    for (TypeRow const& r : kTypes)
-    {
-        if (r.type == type)
-            return r;
-    }
-    ORU_VERIFY(!"Buffer type enums are not all properly translated.");
-    return kTypes[0];
-}
+const TwoWayTable<Buffer::Usage> kUsages(kUsageRows, __FILE__, __LINE__, kUntranslated);
 
 } // namespace
 
@@ -263,43 +245,10 @@ void Buffer::verifyCurrentBufferObject() const
 {
 }
 
-unsigned int Buffer::Type2GL(Type type)
-{
-    return row(type).target;
-}
-
-Buffer::Type Buffer::GL2Type(unsigned int type)
-{
-    for (TypeRow const& r : kTypes)
-    {
-        if (r.target == type)
-            return r.type;
-    }
-    ORU_VERIFY(!"Buffer type enums are not all properly translated.");
-    return eUnpack;
-}
-
-unsigned int Buffer::Usage2GL(Usage usage)
-{
-    for (UsageRow const& r : kUsages)
-    {
-        if (r.usage == usage)
-            return r.gl;
-    }
-    ORU_VERIFY(!"Buffer type enums are not all properly translated.");
-    return 0;
-}
-
-Buffer::Usage Buffer::GL2Usage(unsigned int usage)
-{
-    for (UsageRow const& r : kUsages)
-    {
-        if (r.gl == usage)
-            return r.usage;
-    }
-    ORU_VERIFY(!"Buffer type enums are not all properly translated.");
-    return eStreamDraw;
-}
+unsigned int Buffer::Type2GL(Type type) { return kTypes.toGL(type); }
+Buffer::Type Buffer::GL2Type(unsigned int type) { return kTypes.fromGL(type); }
+unsigned int Buffer::Usage2GL(Usage usage) { return kUsages.toGL(usage); }
+Buffer::Usage Buffer::GL2Usage(unsigned int usage) { return kUsages.fromGL(usage); }
 
 } // namespace OGL
 } // namespace Oru

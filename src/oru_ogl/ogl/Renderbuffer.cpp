@@ -13,8 +13,8 @@ namespace OGL
 namespace
 {
 
-// The stencil-index formats of GL_EXT_framebuffer_object, 0x8D45 to 0x8D49.
-const GLenum kFirstStencilIndex = 0x8D45;
+// The stencil-index formats of GL_EXT_framebuffer_object.
+const GLenum kFirstStencilIndex = GL_STENCIL_INDEX_EXT;
 const GLenum kLastStencilIndex = GL_STENCIL_INDEX16_EXT;
 
 GLenum attachmentOf(GLenum format)

@@ -523,66 +523,44 @@ void Texture::verifyCurrentTextureObject() const
 }
 
 // ---------------------------------------------------------------------------
-// Translations. One table per enumeration, {layer value, GL value} per row,
-// read forwards by X2GL and backwards by GL2X. Each direction ends in the
-// table's own refusal for a value that has no row.
+// Translations: one two-way table per enumeration. Each refuses a value
+// without a row with its own text, reported at the line of its table.
 // ---------------------------------------------------------------------------
+
+} // namespace OGL
+} // namespace Oru
+
+#include "oru_ogl/ogl/TwoWayTable.h"
+
+namespace Oru
+{
+namespace OGL
+{
 
 namespace
 {
 
-template <class E>
-struct Row
-{
-    E value;
-    GLenum gl;
-};
-
-template <class E, std::size_t N>
-bool findGL(Row<E> const (&table)[N], E value, unsigned int& gl)
-{
-    for (Row<E> const& row : table)
-    {
-        if (row.value == value)
-        {
-            gl = row.gl;
-            return true;
-        }
-    }
-    return false;
-}
-
-template <class E, std::size_t N>
-bool findValue(Row<E> const (&table)[N], unsigned int gl, E& value)
-{
-    for (Row<E> const& row : table)
-    {
-        if (row.gl == gl)
-        {
-            value = row.value;
-            return true;
-        }
-    }
-    return false;
-}
-
-const Row<Texture::Target> kTargets[] = {
+const TwoWayTable<Texture::Target>::Row kTargetsRows[] = {
     { Texture::TEXTURE_1D, GL_TEXTURE_1D },
     { Texture::TEXTURE_2D, GL_TEXTURE_2D },
     { Texture::TEXTURE_3D, GL_TEXTURE_3D },
     { Texture::TEXTURE_RECT, GL_TEXTURE_RECTANGLE_ARB },
 };
+const TwoWayTable<Texture::Target> kTargets(kTargetsRows, __FILE__, __LINE__,
+    "!\"Target enums are not all properly translated.\"");
 
-const Row<Texture::TargetBinding> kTargetBindings[] = {
+const TwoWayTable<Texture::TargetBinding>::Row kTargetBindingsRows[] = {
     { Texture::TEXTURE_BINDING_1D, GL_TEXTURE_BINDING_1D },
     { Texture::TEXTURE_BINDING_2D, GL_TEXTURE_BINDING_2D },
     { Texture::TEXTURE_BINDING_3D, GL_TEXTURE_BINDING_3D },
     { Texture::TEXTURE_BINDING_RECT, GL_TEXTURE_BINDING_RECTANGLE_ARB },
 };
+const TwoWayTable<Texture::TargetBinding> kTargetBindings(kTargetBindingsRows, __FILE__, __LINE__,
+    "!\"Target enums are not all properly translated.\"");
 
 // The sized formats of GL 1.1 and the floating-point ones of
 // GL_ARB_texture_float (38 to 49).
-const Row<Texture::InternalFormat> kInternalFormats[] = {
+const TwoWayTable<Texture::InternalFormat>::Row kInternalFormatsRows[] = {
     { Texture::ALPHA, GL_ALPHA },
     { Texture::ALPHA4, GL_ALPHA4 },
     { Texture::ALPHA8, GL_ALPHA8 },
@@ -634,8 +612,10 @@ const Row<Texture::InternalFormat> kInternalFormats[] = {
     { Texture::LUMINANCE16F, GL_LUMINANCE16F_ARB },
     { Texture::LUMINANCE_ALPHA16F, GL_LUMINANCE_ALPHA16F_ARB },
 };
+const TwoWayTable<Texture::InternalFormat> kInternalFormats(kInternalFormatsRows, __FILE__, __LINE__,
+    "!\"InternalFormat enums are not all properly translated.\"");
 
-const Row<Texture::Format> kFormats[] = {
+const TwoWayTable<Texture::Format>::Row kFormatsRows[] = {
     { Texture::Format::COLOR_INDEX, GL_COLOR_INDEX },
     { Texture::Format::RED, GL_RED },
     { Texture::Format::GREEN, GL_GREEN },
@@ -648,8 +628,10 @@ const Row<Texture::Format> kFormats[] = {
     { Texture::Format::LUMINANCE, GL_LUMINANCE },
     { Texture::Format::LUMINANCE_ALPHA, GL_LUMINANCE_ALPHA },
 };
+const TwoWayTable<Texture::Format> kFormats(kFormatsRows, __FILE__, __LINE__,
+    "!\"Format enums are not all properly translated.\"");
 
-const Row<Texture::Type> kTypes[] = {
+const TwoWayTable<Texture::Type>::Row kTypesRows[] = {
     { Texture::UNSIGNED_BYTE, GL_UNSIGNED_BYTE },
     { Texture::BYTE, GL_BYTE },
     { Texture::BITMAP, GL_BITMAP },
@@ -672,8 +654,10 @@ const Row<Texture::Type> kTypes[] = {
     { Texture::UNSIGNED_INT_2_10_10_10_REV, GL_UNSIGNED_INT_2_10_10_10_REV },
     { Texture::HALF_FLOAT, GL_HALF_FLOAT_ARB },
 };
+const TwoWayTable<Texture::Type> kTypes(kTypesRows, __FILE__, __LINE__,
+    "!\"Type enums are not all properly translated.\"");
 
-const Row<Texture::Filter> kFilters[] = {
+const TwoWayTable<Texture::Filter>::Row kFiltersRows[] = {
     { Texture::NEAREST, GL_NEAREST },
     { Texture::LINEAR, GL_LINEAR },
     { Texture::NEAREST_MIPMAP_NEAREST, GL_NEAREST_MIPMAP_NEAREST },
@@ -681,16 +665,20 @@ const Row<Texture::Filter> kFilters[] = {
     { Texture::NEAREST_MIPMAP_LINEAR, GL_NEAREST_MIPMAP_LINEAR },
     { Texture::LINEAR_MIPMAP_LINEAR, GL_LINEAR_MIPMAP_LINEAR },
 };
+const TwoWayTable<Texture::Filter> kFilters(kFiltersRows, __FILE__, __LINE__,
+    "!\"Filter enums are not all properly translated.\"");
 
-const Row<Texture::WrapMode> kWrapModes[] = {
+const TwoWayTable<Texture::WrapMode>::Row kWrapModesRows[] = {
     { Texture::CLAMP, GL_CLAMP },
     { Texture::CLAMP_TO_BORDER, GL_CLAMP_TO_BORDER },
     { Texture::CLAMP_TO_EDGE, GL_CLAMP_TO_EDGE },
     { Texture::MIRRORED_REPEAT, GL_MIRRORED_REPEAT },
     { Texture::REPEAT, GL_REPEAT },
 };
+const TwoWayTable<Texture::WrapMode> kWrapModes(kWrapModesRows, __FILE__, __LINE__,
+    "!\"WrapMode enums are not all properly translated.\"");
 
-const Row<Texture::PixelStoreMode> kPixelStoreModes[] = {
+const TwoWayTable<Texture::PixelStoreMode>::Row kPixelStoreModesRows[] = {
     { Texture::PACK_SWAP_BYTES, GL_PACK_SWAP_BYTES },
     { Texture::PACK_LSB_FIRST, GL_PACK_LSB_FIRST },
     { Texture::PACK_ROW_LENGTH, GL_PACK_ROW_LENGTH },
@@ -708,139 +696,30 @@ const Row<Texture::PixelStoreMode> kPixelStoreModes[] = {
     { Texture::UNPACK_SKIP_IMAGES, GL_UNPACK_SKIP_IMAGES },
     { Texture::UNPACK_ALIGNMENT, GL_UNPACK_ALIGNMENT },
 };
+const TwoWayTable<Texture::PixelStoreMode> kPixelStoreModes(kPixelStoreModesRows, __FILE__, __LINE__,
+    "!\"PixelStoreMode enums are not all properly translated.\"");
 
 } // namespace
 
-unsigned int Texture::Target2GL(Target target)
-{
-    unsigned int gl = 0;
-    if (!findGL(kTargets, target, gl))
-        ORU_VERIFY(!"Target enums are not all properly translated.");
-    return gl;
-}
-
-Texture::Target Texture::GL2Target(unsigned int target)
-{
-    Target value = TEXTURE_1D;
-    if (!findValue(kTargets, target, value))
-        ORU_VERIFY(!"Target enums are not all properly translated.");
-    return value;
-}
-
+unsigned int Texture::Target2GL(Target target) { return kTargets.toGL(target); }
+Texture::Target Texture::GL2Target(unsigned int target) { return kTargets.fromGL(target); }
 // The binding queries share the targets' text: they are the targets' twins.
-unsigned int Texture::TargetBinding2GL(TargetBinding binding)
-{
-    unsigned int gl = 0;
-    if (!findGL(kTargetBindings, binding, gl))
-        ORU_VERIFY(!"Target enums are not all properly translated.");
-    return gl;
-}
-
-Texture::TargetBinding Texture::GL2TargetBinding(unsigned int binding)
-{
-    TargetBinding value = TEXTURE_BINDING_1D;
-    if (!findValue(kTargetBindings, binding, value))
-        ORU_VERIFY(!"Target enums are not all properly translated.");
-    return value;
-}
-
-unsigned int Texture::InternalFormat2GL(InternalFormat format)
-{
-    unsigned int gl = 0;
-    if (!findGL(kInternalFormats, format, gl))
-        ORU_VERIFY(!"InternalFormat enums are not all properly translated.");
-    return gl;
-}
-
+unsigned int Texture::TargetBinding2GL(TargetBinding binding) { return kTargetBindings.toGL(binding); }
+Texture::TargetBinding Texture::GL2TargetBinding(unsigned int binding) { return kTargetBindings.fromGL(binding); }
+unsigned int Texture::InternalFormat2GL(InternalFormat format) { return kInternalFormats.toGL(format); }
 // Only the sized constants of the table translate back: GL's generic values
 // 1 to 4 for the component count are not internal formats of the layer.
-Texture::InternalFormat Texture::GL2InternalFormat(unsigned int format)
-{
-    InternalFormat value = ALPHA;
-    if (!findValue(kInternalFormats, format, value))
-        ORU_VERIFY(!"InternalFormat enums are not all properly translated.");
-    return value;
-}
-
-unsigned int Texture::Format2GL(Format format)
-{
-    unsigned int gl = 0;
-    if (!findGL(kFormats, format, gl))
-        ORU_VERIFY(!"Format enums are not all properly translated.");
-    return gl;
-}
-
-Texture::Format Texture::GL2Format(unsigned int format)
-{
-    Format value = Format::COLOR_INDEX;
-    if (!findValue(kFormats, format, value))
-        ORU_VERIFY(!"Format enums are not all properly translated.");
-    return value;
-}
-
-unsigned int Texture::Type2GL(Type type)
-{
-    unsigned int gl = 0;
-    if (!findGL(kTypes, type, gl))
-        ORU_VERIFY(!"Type enums are not all properly translated.");
-    return gl;
-}
-
-Texture::Type Texture::GL2Type(unsigned int type)
-{
-    Type value = UNSIGNED_BYTE;
-    if (!findValue(kTypes, type, value))
-        ORU_VERIFY(!"Type enums are not all properly translated.");
-    return value;
-}
-
-unsigned int Texture::Filter2GL(Filter filter)
-{
-    unsigned int gl = 0;
-    if (!findGL(kFilters, filter, gl))
-        ORU_VERIFY(!"Filter enums are not all properly translated.");
-    return gl;
-}
-
-Texture::Filter Texture::GL2Filter(unsigned int filter)
-{
-    Filter value = NEAREST;
-    if (!findValue(kFilters, filter, value))
-        ORU_VERIFY(!"Filter enums are not all properly translated.");
-    return value;
-}
-
-unsigned int Texture::WrapMode2GL(WrapMode mode)
-{
-    unsigned int gl = 0;
-    if (!findGL(kWrapModes, mode, gl))
-        ORU_VERIFY(!"WrapMode enums are not all properly translated.");
-    return gl;
-}
-
-Texture::WrapMode Texture::GL2WrapMode(unsigned int mode)
-{
-    WrapMode value = CLAMP;
-    if (!findValue(kWrapModes, mode, value))
-        ORU_VERIFY(!"WrapMode enums are not all properly translated.");
-    return value;
-}
-
-unsigned int Texture::PixelStoreMode2GL(PixelStoreMode mode)
-{
-    unsigned int gl = 0;
-    if (!findGL(kPixelStoreModes, mode, gl))
-        ORU_VERIFY(!"PixelStoreMode enums are not all properly translated.");
-    return gl;
-}
-
-Texture::PixelStoreMode Texture::GL2PixelStoreMode(unsigned int mode)
-{
-    PixelStoreMode value = PACK_SWAP_BYTES;
-    if (!findValue(kPixelStoreModes, mode, value))
-        ORU_VERIFY(!"PixelStoreMode enums are not all properly translated.");
-    return value;
-}
+Texture::InternalFormat Texture::GL2InternalFormat(unsigned int format) { return kInternalFormats.fromGL(format); }
+unsigned int Texture::Format2GL(Format format) { return kFormats.toGL(format); }
+Texture::Format Texture::GL2Format(unsigned int format) { return kFormats.fromGL(format); }
+unsigned int Texture::Type2GL(Type type) { return kTypes.toGL(type); }
+Texture::Type Texture::GL2Type(unsigned int type) { return kTypes.fromGL(type); }
+unsigned int Texture::Filter2GL(Filter filter) { return kFilters.toGL(filter); }
+Texture::Filter Texture::GL2Filter(unsigned int filter) { return kFilters.fromGL(filter); }
+unsigned int Texture::WrapMode2GL(WrapMode mode) { return kWrapModes.toGL(mode); }
+Texture::WrapMode Texture::GL2WrapMode(unsigned int mode) { return kWrapModes.fromGL(mode); }
+unsigned int Texture::PixelStoreMode2GL(PixelStoreMode mode) { return kPixelStoreModes.toGL(mode); }
+Texture::PixelStoreMode Texture::GL2PixelStoreMode(unsigned int mode) { return kPixelStoreModes.fromGL(mode); }
 
 } // namespace OGL
 } // namespace Oru
