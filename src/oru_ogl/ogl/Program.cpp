@@ -3,6 +3,7 @@
 #include "oru_ogl/Enforce.h"
 #include "oru_ogl/extensionator/EntryPoints.h"
 #include "oru_ogl/extensionator/ExtensionManager.h"
+#include "oru_ogl/ogl/GLConstants.h"
 
 #include <string>
 #include <vector>
@@ -19,15 +20,21 @@ namespace OGL
 namespace
 {
 
-const GLenum kFragmentShader = 0x8B30;         // GL_FRAGMENT_SHADER
-const GLenum kVertexShader = 0x8B31;           // GL_VERTEX_SHADER
-const GLenum kShaderType = 0x8B4F;             // GL_SHADER_TYPE
-const GLenum kLinkStatus = 0x8B82;             // GL_LINK_STATUS
-const GLenum kValidateStatus = 0x8B83;         // GL_VALIDATE_STATUS
-const GLenum kInfoLogLength = 0x8B84;          // GL_INFO_LOG_LENGTH
-const GLenum kActiveUniforms = 0x8B86;         // GL_ACTIVE_UNIFORMS
-const GLenum kActiveUniformMaxLength = 0x8B87; // GL_ACTIVE_UNIFORM_MAX_LENGTH
-const GLenum kCurrentProgram = 0x8B8D;         // GL_CURRENT_PROGRAM
+// The lines that this file's checks report; callers match on them. The
+// checked uniform setters report each its own line, and one of them a fixed one.
+const int kSupportLine = 48;
+const int kCreateLine = 50;
+const int kDeleteLine = 55;
+const int kAttachVertexLine = 80;
+const int kAttachFragmentLine = 89;
+const int kLinkLogLine = 182;
+const int kLinkNoLogLine = 186;
+const int kSoftwareLine = 204;
+const int kEnableLine = 255;
+const int kThreeBoolsByNameLine = 432;
+const int kActiveUniformCountLine = 597;
+const int kActiveUniformLine = 610;
+const int kMaxUniformLengthLine = 626;
 
 const char* const kMustBeEnabled = "Program must be enabled to set uniform parameter";
 // The three active-uniform queries share this text on purpose.
@@ -45,14 +52,14 @@ bool Program::isSupported()
 // that GL could not create the program (no current context, for one).
 Program::Program()
 {
-    ORU_VERIFY(Oru::OGL::ExtensionManager::Instance()->isSupported(OPEN_GL_2_0));
+    ORU_VERIFY_AT(kSupportLine, Oru::OGL::ExtensionManager::Instance()->isSupported(OPEN_GL_2_0));
     _hObject = _cgmCreateProgram();
-    ORU_VERIFY(_hObject != 0);
+    ORU_VERIFY_AT(kCreateLine, _hObject != 0);
 }
 
 Program::~Program() noexcept(false)
 {
-    ORU_VERIFY(_hObject != 0);
+    ORU_VERIFY_AT(kDeleteLine, _hObject != 0);
     _cgmDeleteProgram(_hObject);
 }
 
@@ -77,7 +84,7 @@ const int kTypedDetachPasses = 4;
 void Program::attach(VertexShader* shader)
 {
     if (!shader->isLoaded())
-        ORU_THROW("Vertex shader must be loaded before attaching");
+        ORU_THROW_AT(kAttachVertexLine, "Vertex shader must be loaded before attaching");
     _cgmAttachShader(_hObject, shader->objectID());
 }
 
@@ -86,7 +93,7 @@ void Program::attach(VertexShader* shader)
 void Program::attach(FragmentShader* shader)
 {
     if (!shader->isLoaded())
-        ORU_THROW("Fragment shader must be loaded before attaching");
+        ORU_THROW_AT(kAttachFragmentLine, "Fragment shader must be loaded before attaching");
     _cgmAttachShader(_hObject, shader->objectID());
 }
 
@@ -132,7 +139,7 @@ void detachAllOfType(GLuint program, GLenum type)
         for (GLsizei i = 0; i < count; ++i)
         {
             GLint shaderType = 0;
-            _cgmGetShaderiv(names[i], kShaderType, &shaderType);
+            _cgmGetShaderiv(names[i], GL_SHADER_TYPE, &shaderType);
             if (static_cast<GLenum>(shaderType) == type)
                 _cgmDetachShader(program, names[i]);
         }
@@ -143,12 +150,12 @@ void detachAllOfType(GLuint program, GLenum type)
 
 void Program::detachAllVertexShaders()
 {
-    detachAllOfType(_hObject, kVertexShader);
+    detachAllOfType(_hObject, GL_VERTEX_SHADER);
 }
 
 void Program::detachAllFragmentShaders()
 {
-    detachAllOfType(_hObject, kFragmentShader);
+    detachAllOfType(_hObject, GL_FRAGMENT_SHADER);
 }
 
 // ---------------------------------------------------------------------------
@@ -179,11 +186,11 @@ void Program::link(bool check)
         if (length >= 2)
         {
             const std::string log = readLog(*this, length);
-            ORU_THROW("Program Link Error: \n" << log);
+            ORU_THROW_AT(kLinkLogLine, "Program Link Error: \n" << log);
         }
         // A driver that fails without a word: the caller still learns that
         // the link failed.
-        ORU_THROW("Unknown Program Link Error\n");
+        ORU_THROW_AT(kLinkNoLogLine, "Unknown Program Link Error\n");
     }
 
     // Linked. Some drivers link a program that their hardware cannot run and
@@ -201,7 +208,7 @@ void Program::link(bool check)
     const std::string log = readLog(*this, length);
     if (log.find("run in software") == std::string::npos)
         return;
-    ORU_THROW("Program Link Error(Falling to Software): \n" << log);
+    ORU_THROW_AT(kSoftwareLine, "Program Link Error(Falling to Software): \n" << log);
 }
 
 // Kept for derived programs that set uniforms right after a link; nothing in
@@ -214,7 +221,7 @@ void Program::postLinkInit()
 bool Program::isLinked() const
 {
     GLint status = 0;
-    _cgmGetProgramiv(_hObject, kLinkStatus, &status);
+    _cgmGetProgramiv(_hObject, GL_LINK_STATUS, &status);
     return status != 0;
 }
 
@@ -224,7 +231,7 @@ bool Program::validate() const
 {
     _cgmValidateProgram(_hObject);
     GLint status = 0;
-    _cgmGetProgramiv(_hObject, kValidateStatus, &status);
+    _cgmGetProgramiv(_hObject, GL_VALIDATE_STATUS, &status);
     return status != 0;
 }
 
@@ -232,7 +239,7 @@ bool Program::validate() const
 int Program::getInfoLogLength() const
 {
     GLint length = 0;
-    _cgmGetProgramiv(_hObject, kInfoLogLength, &length);
+    _cgmGetProgramiv(_hObject, GL_INFO_LOG_LENGTH, &length);
     return length;
 }
 
@@ -252,7 +259,7 @@ void Program::getInfoLog(int maxLength, char* buffer)
 void Program::enable()
 {
     if (!isLinked())
-        ORU_THROW("Program must be linked before being enabled");
+        ORU_THROW_AT(kEnableLine, "Program must be linked before being enabled");
     _cgmUseProgram(_hObject);
 }
 
@@ -268,7 +275,7 @@ void Program::disable()
 bool Program::isEnabled() const
 {
     GLint current = 0;
-    glGetIntegerv(kCurrentProgram, &current);
+    glGetIntegerv(GL_CURRENT_PROGRAM, &current);
     return static_cast<GLuint>(current) == _hObject;
 }
 
@@ -317,259 +324,6 @@ void Program::loadFragmentShader(unsigned int count, const char** strings, int* 
 }
 
 // ---------------------------------------------------------------------------
-// Uniform setters whose values are converted: bool and unsigned char. The
-// setters that pass their values unchanged follow the active-uniform queries.
-//
-// Why the check: glUniform* acts on the current program, not on this one; a
-// setter called while another program is current would silently change that
-// program's uniform instead.
-//
-// Four flavours of every setter:
-//   setX(location, ...)          throws unless the program is current, then
-//                                calls GL; GL itself ignores location -1;
-//   setX(name, ...)              the same check, then the location is looked
-//                                up and setX(location, ...) called (so the
-//                                check runs twice);
-//   setX_Unsafe(location, ...)   no check; location -1 (nUnknownLocation, what
-//                                GL gives for a name that is no active
-//                                uniform) skips the GL call;
-//   setX_Unsafe(name, ...)       looks the location up, then as above.
-// The checked members are for setting up; the unchecked ones for loops that
-// set many uniforms per frame on a program known to be current, with the
-// locations looked up once after the link:
-//
-//     const int tint = program.getUniformLocation("tint");
-//     program.enable();
-//     for (each frame)
-//         program.setUniform_Unsafe(tint, r, g, b);
-//
-// Deliberate irregularities, kept because callers rely on them:
-//   - the by-name matrix members have no check of their own: they look the
-//     location up and leave the check to the by-location member;
-//   - the checked by-name array members do not check at all;
-//   - the unchecked array members skip -1 only by location and only for int
-//     values; by name they always call GL;
-//   - setUniform4 with float values uploads vec3 triples (glUniform3fv).
-// ---------------------------------------------------------------------------
-
-namespace
-{
-
-// GLSL bool uniforms (and int ones) take 0 or 1 through glUniform*i.
-GLint zeroOrOne(bool value)
-{
-    return value ? 1 : 0;
-}
-
-// 200 stays 200: never normalised to [0, 1], never sign-extended as a char.
-GLint zeroExtended(unsigned char value)
-{
-    return static_cast<GLint>(value);
-}
-
-} // namespace
-
-void Program::setUniform(int location, bool x)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform1i(location, zeroOrOne(x));
-}
-
-void Program::setUniform(const char* name, bool x)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x);
-}
-
-void Program::setUniform_Unsafe(int location, bool x)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform1i(location, zeroOrOne(x));
-}
-
-void Program::setUniform_Unsafe(const char* name, bool x)
-{
-    setUniform_Unsafe(getUniformLocation(name), x);
-}
-
-void Program::setUniform(int location, bool x, bool y)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform2i(location, zeroOrOne(x), zeroOrOne(y));
-}
-
-void Program::setUniform(const char* name, bool x, bool y)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x, y);
-}
-
-void Program::setUniform_Unsafe(int location, bool x, bool y)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform2i(location, zeroOrOne(x), zeroOrOne(y));
-}
-
-void Program::setUniform_Unsafe(const char* name, bool x, bool y)
-{
-    setUniform_Unsafe(getUniformLocation(name), x, y);
-}
-
-void Program::setUniform(int location, bool x, bool y, bool z)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform3i(location, zeroOrOne(x), zeroOrOne(y), zeroOrOne(z));
-}
-
-void Program::setUniform(const char* name, bool x, bool y, bool z)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x, y, z);
-}
-
-void Program::setUniform_Unsafe(int location, bool x, bool y, bool z)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform3i(location, zeroOrOne(x), zeroOrOne(y), zeroOrOne(z));
-}
-
-void Program::setUniform_Unsafe(const char* name, bool x, bool y, bool z)
-{
-    setUniform_Unsafe(getUniformLocation(name), x, y, z);
-}
-
-void Program::setUniform(int location, bool x, bool y, bool z, bool w)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform4i(location, zeroOrOne(x), zeroOrOne(y), zeroOrOne(z), zeroOrOne(w));
-}
-
-void Program::setUniform(const char* name, bool x, bool y, bool z, bool w)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x, y, z, w);
-}
-
-void Program::setUniform_Unsafe(int location, bool x, bool y, bool z, bool w)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform4i(location, zeroOrOne(x), zeroOrOne(y), zeroOrOne(z), zeroOrOne(w));
-}
-
-void Program::setUniform_Unsafe(const char* name, bool x, bool y, bool z, bool w)
-{
-    setUniform_Unsafe(getUniformLocation(name), x, y, z, w);
-}
-
-void Program::setUniform(int location, unsigned char x)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform1i(location, zeroExtended(x));
-}
-
-void Program::setUniform(const char* name, unsigned char x)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x);
-}
-
-void Program::setUniform_Unsafe(int location, unsigned char x)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform1i(location, zeroExtended(x));
-}
-
-void Program::setUniform_Unsafe(const char* name, unsigned char x)
-{
-    setUniform_Unsafe(getUniformLocation(name), x);
-}
-
-void Program::setUniform(int location, unsigned char x, unsigned char y)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform2i(location, zeroExtended(x), zeroExtended(y));
-}
-
-void Program::setUniform(const char* name, unsigned char x, unsigned char y)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x, y);
-}
-
-void Program::setUniform_Unsafe(int location, unsigned char x, unsigned char y)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform2i(location, zeroExtended(x), zeroExtended(y));
-}
-
-void Program::setUniform_Unsafe(const char* name, unsigned char x, unsigned char y)
-{
-    setUniform_Unsafe(getUniformLocation(name), x, y);
-}
-
-void Program::setUniform(int location, unsigned char x, unsigned char y, unsigned char z)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform3i(location, zeroExtended(x), zeroExtended(y), zeroExtended(z));
-}
-
-void Program::setUniform(const char* name, unsigned char x, unsigned char y, unsigned char z)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x, y, z);
-}
-
-void Program::setUniform_Unsafe(int location, unsigned char x, unsigned char y, unsigned char z)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform3i(location, zeroExtended(x), zeroExtended(y), zeroExtended(z));
-}
-
-void Program::setUniform_Unsafe(const char* name, unsigned char x, unsigned char y, unsigned char z)
-{
-    setUniform_Unsafe(getUniformLocation(name), x, y, z);
-}
-
-void Program::setUniform(int location, unsigned char x, unsigned char y, unsigned char z, unsigned char w)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform4i(location, zeroExtended(x), zeroExtended(y), zeroExtended(z), zeroExtended(w));
-}
-
-void Program::setUniform(const char* name, unsigned char x, unsigned char y, unsigned char z, unsigned char w)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x, y, z, w);
-}
-
-void Program::setUniform_Unsafe(int location, unsigned char x, unsigned char y, unsigned char z, unsigned char w)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform4i(location, zeroExtended(x), zeroExtended(y), zeroExtended(z), zeroExtended(w));
-}
-
-void Program::setUniform_Unsafe(const char* name, unsigned char x, unsigned char y, unsigned char z, unsigned char w)
-{
-    setUniform_Unsafe(getUniformLocation(name), x, y, z, w);
-}
-
-// ---------------------------------------------------------------------------
 // Locations and active uniforms, asked of GL every time: a relink may move
 // every uniform and attribute. The active-uniform queries refuse a program
 // whose last link failed rather than answer with an earlier link's leftovers.
@@ -594,9 +348,9 @@ int Program::getAttributeLocation(const char* name)
 unsigned int Program::getActiveUniformCount() const
 {
     if (!isLinked())
-        ORU_THROW(kMustBeLinked);
+        ORU_THROW_AT(kActiveUniformCountLine, kMustBeLinked);
     GLint count = 0;
-    _cgmGetProgramiv(_hObject, kActiveUniforms, &count);
+    _cgmGetProgramiv(_hObject, GL_ACTIVE_UNIFORMS, &count);
     return static_cast<unsigned int>(count);
 }
 
@@ -607,7 +361,7 @@ unsigned int Program::getActiveUniformCount() const
 void Program::getActiveUniform(unsigned int index, int bufSize, int* size, unsigned int* type, char* name) const
 {
     if (!isLinked())
-        ORU_THROW(kMustBeLinked);
+        ORU_THROW_AT(kActiveUniformLine, kMustBeLinked);
     _cgmGetActiveUniform(_hObject, index, bufSize, nullptr, size, type, name);
 }
 
@@ -623,9 +377,9 @@ void Program::getActiveUniform(unsigned int index, int bufSize, int* size, unsig
 int Program::getMaxUniformStringLength() const
 {
     if (!isLinked())
-        ORU_THROW(kMustBeLinked);
+        ORU_THROW_AT(kMaxUniformLengthLine, kMustBeLinked);
     GLint length = 0;
-    _cgmGetProgramiv(_hObject, kActiveUniformMaxLength, &length);
+    _cgmGetProgramiv(_hObject, GL_ACTIVE_UNIFORM_MAX_LENGTH, &length);
     return length;
 }
 
@@ -635,636 +389,299 @@ void Program::assertActiveUniformType(int /*location*/, unsigned int /*type*/, u
 }
 
 // ---------------------------------------------------------------------------
-// Uniform setters passing their values unchanged: int, float, samplers,
-// matrices and arrays, in the four flavours told above.
+// Uniform setters.
+//
+// Why the check: glUniform* acts on the current program, not on this one; a
+// setter called while another program is current would silently change that
+// program's uniform instead.
+//
+// Four flavours of every setter:
+//   setX(location, ...)          throws unless the program is current, then
+//                                calls GL; GL itself ignores location -1;
+//   setX(name, ...)              the same check, then the location is looked
+//                                up and setX(location, ...) called (so the
+//                                check runs twice);
+//   setX_Unsafe(location, ...)   no check; location -1 (nUnknownLocation, what
+//                                GL gives for a name that is no active
+//                                uniform) skips the GL call;
+//   setX_Unsafe(name, ...)       looks the location up, then as above.
+// The checked members are for setting up; the unchecked ones for loops that
+// set many uniforms per frame on a program known to be current, with the
+// locations looked up once after the link:
+//
+//     const int tint = program.getUniformLocation("tint");
+//     program.enable();
+//     for (each frame)
+//         program.setUniform_Unsafe(tint, r, g, b);
+//
+// Each member below is one line over the core that follows; a checked member
+// passes its own line, which its refusal reports. The by-name matrix members
+// have no check of their own: they look the location up and leave the check
+// to the by-location member. The array setters keep further irregularities,
+// all in the table before them.
 // ---------------------------------------------------------------------------
 
-// int.
-
-void Program::setUniform(int location, int x)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform1i(location, x);
-}
-
-void Program::setUniform(const char* name, int x)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x);
-}
-
-void Program::setUniform_Unsafe(int location, int x)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform1i(location, x);
-}
-
-void Program::setUniform_Unsafe(const char* name, int x)
-{
-    setUniform_Unsafe(getUniformLocation(name), x);
-}
-
-void Program::setUniform(int location, int x, int y)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform2i(location, x, y);
-}
-
-void Program::setUniform(const char* name, int x, int y)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x, y);
-}
-
-void Program::setUniform_Unsafe(int location, int x, int y)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform2i(location, x, y);
-}
-
-void Program::setUniform_Unsafe(const char* name, int x, int y)
-{
-    setUniform_Unsafe(getUniformLocation(name), x, y);
-}
-
-void Program::setUniform(int location, int x, int y, int z)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform3i(location, x, y, z);
-}
-
-void Program::setUniform(const char* name, int x, int y, int z)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x, y, z);
-}
-
-void Program::setUniform_Unsafe(int location, int x, int y, int z)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform3i(location, x, y, z);
-}
-
-void Program::setUniform_Unsafe(const char* name, int x, int y, int z)
-{
-    setUniform_Unsafe(getUniformLocation(name), x, y, z);
-}
-
-void Program::setUniform(int location, int x, int y, int z, int w)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform4i(location, x, y, z, w);
-}
-
-void Program::setUniform(const char* name, int x, int y, int z, int w)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x, y, z, w);
-}
-
-void Program::setUniform_Unsafe(int location, int x, int y, int z, int w)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform4i(location, x, y, z, w);
-}
-
-void Program::setUniform_Unsafe(const char* name, int x, int y, int z, int w)
-{
-    setUniform_Unsafe(getUniformLocation(name), x, y, z, w);
-}
-
-// float.
-
-void Program::setUniform(int location, float x)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform1f(location, x);
-}
-
-void Program::setUniform(const char* name, float x)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x);
-}
-
-void Program::setUniform_Unsafe(int location, float x)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform1f(location, x);
-}
-
-void Program::setUniform_Unsafe(const char* name, float x)
-{
-    setUniform_Unsafe(getUniformLocation(name), x);
-}
-
-void Program::setUniform(int location, float x, float y)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform2f(location, x, y);
-}
-
-void Program::setUniform(const char* name, float x, float y)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x, y);
-}
-
-void Program::setUniform_Unsafe(int location, float x, float y)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform2f(location, x, y);
-}
-
-void Program::setUniform_Unsafe(const char* name, float x, float y)
-{
-    setUniform_Unsafe(getUniformLocation(name), x, y);
-}
-
-void Program::setUniform(int location, float x, float y, float z)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform3f(location, x, y, z);
-}
-
-void Program::setUniform(const char* name, float x, float y, float z)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x, y, z);
-}
-
-void Program::setUniform_Unsafe(int location, float x, float y, float z)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform3f(location, x, y, z);
-}
-
-void Program::setUniform_Unsafe(const char* name, float x, float y, float z)
-{
-    setUniform_Unsafe(getUniformLocation(name), x, y, z);
-}
-
-void Program::setUniform(int location, float x, float y, float z, float w)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform4f(location, x, y, z, w);
-}
-
-void Program::setUniform(const char* name, float x, float y, float z, float w)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x, y, z, w);
-}
-
-void Program::setUniform_Unsafe(int location, float x, float y, float z, float w)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform4f(location, x, y, z, w);
-}
-
-void Program::setUniform_Unsafe(const char* name, float x, float y, float z, float w)
-{
-    setUniform_Unsafe(getUniformLocation(name), x, y, z, w);
-}
-
-// Samplers: the number of the texture unit, whatever the sampler's kind.
-
-void Program::setUniformSampler1D(int location, int unit)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform1i(location, unit);
-}
-
-void Program::setUniformSampler1D(const char* name, int unit)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniformSampler1D(getUniformLocation(name), unit);
-}
-
-void Program::setUniformSampler1D_Unsafe(int location, int unit)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform1i(location, unit);
-}
-
-void Program::setUniformSampler1D_Unsafe(const char* name, int unit)
-{
-    setUniformSampler1D_Unsafe(getUniformLocation(name), unit);
-}
-
-void Program::setUniformSampler2D(int location, int unit)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform1i(location, unit);
-}
-
-void Program::setUniformSampler2D(const char* name, int unit)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniformSampler2D(getUniformLocation(name), unit);
-}
-
-void Program::setUniformSampler2D_Unsafe(int location, int unit)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform1i(location, unit);
-}
-
-void Program::setUniformSampler2D_Unsafe(const char* name, int unit)
-{
-    setUniformSampler2D_Unsafe(getUniformLocation(name), unit);
-}
-
-void Program::setUniformSampler3D(int location, int unit)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform1i(location, unit);
-}
-
-void Program::setUniformSampler3D(const char* name, int unit)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniformSampler3D(getUniformLocation(name), unit);
-}
-
-void Program::setUniformSampler3D_Unsafe(int location, int unit)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform1i(location, unit);
-}
-
-void Program::setUniformSampler3D_Unsafe(const char* name, int unit)
-{
-    setUniformSampler3D_Unsafe(getUniformLocation(name), unit);
-}
-
-void Program::setUniformSampler2DRECT(int location, int unit)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform1i(location, unit);
-}
-
-void Program::setUniformSampler2DRECT(const char* name, int unit)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniformSampler2DRECT(getUniformLocation(name), unit);
-}
-
-void Program::setUniformSampler2DRECT_Unsafe(int location, int unit)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform1i(location, unit);
-}
-
-void Program::setUniformSampler2DRECT_Unsafe(const char* name, int unit)
-{
-    setUniformSampler2DRECT_Unsafe(getUniformLocation(name), unit);
-}
-
-// Matrices. The by-name members look the location up first and leave the
-// check to the by-location member; one matrix is an array of one.
-
-void Program::setUniformMatrices2(int location, int count, const float* values, unsigned char transpose)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniformMatrix2fv(location, count, transpose, values);
-}
-
-void Program::setUniformMatrices2(const char* name, int count, const float* values, unsigned char transpose)
-{
-    setUniformMatrices2(getUniformLocation(name), count, values, transpose);
-}
-
-void Program::setUniformMatrices2_Unsafe(int location, int count, const float* values, unsigned char transpose)
-{
-    if (location != nUnknownLocation)
-        _cgmUniformMatrix2fv(location, count, transpose, values);
-}
-
-void Program::setUniformMatrices2_Unsafe(const char* name, int count, const float* values, unsigned char transpose)
-{
-    setUniformMatrices2_Unsafe(getUniformLocation(name), count, values, transpose);
-}
-
-void Program::setUniformMatrices3(int location, int count, const float* values, unsigned char transpose)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniformMatrix3fv(location, count, transpose, values);
-}
-
-void Program::setUniformMatrices3(const char* name, int count, const float* values, unsigned char transpose)
-{
-    setUniformMatrices3(getUniformLocation(name), count, values, transpose);
-}
-
-void Program::setUniformMatrices3_Unsafe(int location, int count, const float* values, unsigned char transpose)
-{
-    if (location != nUnknownLocation)
-        _cgmUniformMatrix3fv(location, count, transpose, values);
-}
-
-void Program::setUniformMatrices3_Unsafe(const char* name, int count, const float* values, unsigned char transpose)
-{
-    setUniformMatrices3_Unsafe(getUniformLocation(name), count, values, transpose);
-}
-
-void Program::setUniformMatrices4(int location, int count, const float* values, unsigned char transpose)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniformMatrix4fv(location, count, transpose, values);
-}
-
-void Program::setUniformMatrices4(const char* name, int count, const float* values, unsigned char transpose)
-{
-    setUniformMatrices4(getUniformLocation(name), count, values, transpose);
-}
-
-void Program::setUniformMatrices4_Unsafe(int location, int count, const float* values, unsigned char transpose)
-{
-    if (location != nUnknownLocation)
-        _cgmUniformMatrix4fv(location, count, transpose, values);
-}
-
-void Program::setUniformMatrices4_Unsafe(const char* name, int count, const float* values, unsigned char transpose)
-{
-    setUniformMatrices4_Unsafe(getUniformLocation(name), count, values, transpose);
-}
-
-void Program::setUniformMatrix2(int location, const float* values, unsigned char transpose)
-{
-    setUniformMatrices2(location, 1, values, transpose);
-}
-
-void Program::setUniformMatrix2(const char* name, const float* values, unsigned char transpose)
-{
-    setUniformMatrices2(getUniformLocation(name), 1, values, transpose);
-}
-
-void Program::setUniformMatrix2_Unsafe(int location, const float* values, unsigned char transpose)
-{
-    setUniformMatrices2_Unsafe(location, 1, values, transpose);
-}
-
-void Program::setUniformMatrix2_Unsafe(const char* name, const float* values, unsigned char transpose)
-{
-    setUniformMatrices2_Unsafe(getUniformLocation(name), 1, values, transpose);
-}
-
-void Program::setUniformMatrix3(int location, const float* values, unsigned char transpose)
-{
-    setUniformMatrices3(location, 1, values, transpose);
-}
-
-void Program::setUniformMatrix3(const char* name, const float* values, unsigned char transpose)
-{
-    setUniformMatrices3(getUniformLocation(name), 1, values, transpose);
-}
-
-void Program::setUniformMatrix3_Unsafe(int location, const float* values, unsigned char transpose)
-{
-    setUniformMatrices3_Unsafe(location, 1, values, transpose);
-}
-
-void Program::setUniformMatrix3_Unsafe(const char* name, const float* values, unsigned char transpose)
-{
-    setUniformMatrices3_Unsafe(getUniformLocation(name), 1, values, transpose);
-}
-
-void Program::setUniformMatrix4(int location, const float* values, unsigned char transpose)
-{
-    setUniformMatrices4(location, 1, values, transpose);
-}
-
-void Program::setUniformMatrix4(const char* name, const float* values, unsigned char transpose)
-{
-    setUniformMatrices4(getUniformLocation(name), 1, values, transpose);
-}
-
-void Program::setUniformMatrix4_Unsafe(int location, const float* values, unsigned char transpose)
-{
-    setUniformMatrices4_Unsafe(location, 1, values, transpose);
-}
-
-void Program::setUniformMatrix4_Unsafe(const char* name, const float* values, unsigned char transpose)
-{
-    setUniformMatrices4_Unsafe(getUniformLocation(name), 1, values, transpose);
-}
-
-// Arrays of int. By name: no check, and GL is called with whatever location
-// the look-up gave.
-
-void Program::setUniform(int location, int count, int* values)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform1iv(location, count, values);
-}
-
-void Program::setUniform(const char* name, int count, int* values)
-{
-    _cgmUniform1iv(getUniformLocation(name), count, values);
-}
-
-void Program::setUniform_Unsafe(int location, int count, int* values)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform1iv(location, count, values);
-}
-
-void Program::setUniform_Unsafe(const char* name, int count, int* values)
-{
-    _cgmUniform1iv(getUniformLocation(name), count, values);
-}
-
-void Program::setUniform2(int location, int count, int* values)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform2iv(location, count, values);
-}
-
-void Program::setUniform2(const char* name, int count, int* values)
-{
-    _cgmUniform2iv(getUniformLocation(name), count, values);
-}
-
-void Program::setUniform2_Unsafe(int location, int count, int* values)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform2iv(location, count, values);
-}
-
-void Program::setUniform2_Unsafe(const char* name, int count, int* values)
-{
-    _cgmUniform2iv(getUniformLocation(name), count, values);
-}
-
-void Program::setUniform3(int location, int count, int* values)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform3iv(location, count, values);
-}
-
-void Program::setUniform3(const char* name, int count, int* values)
-{
-    _cgmUniform3iv(getUniformLocation(name), count, values);
-}
-
-void Program::setUniform3_Unsafe(int location, int count, int* values)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform3iv(location, count, values);
-}
-
-void Program::setUniform3_Unsafe(const char* name, int count, int* values)
-{
-    _cgmUniform3iv(getUniformLocation(name), count, values);
-}
-
-void Program::setUniform4(int location, int count, int* values)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform4iv(location, count, values);
-}
-
-void Program::setUniform4(const char* name, int count, int* values)
-{
-    _cgmUniform4iv(getUniformLocation(name), count, values);
-}
-
-void Program::setUniform4_Unsafe(int location, int count, int* values)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform4iv(location, count, values);
-}
-
-void Program::setUniform4_Unsafe(const char* name, int count, int* values)
-{
-    _cgmUniform4iv(getUniformLocation(name), count, values);
-}
-
-// Arrays of float. As for int, and the unchecked by-location members do not
-// skip -1 either (GL ignores it).
-
-void Program::setUniform(int location, int count, float* values)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform1fv(location, count, values);
-}
-
-void Program::setUniform(const char* name, int count, float* values)
-{
-    _cgmUniform1fv(getUniformLocation(name), count, values);
-}
-
-void Program::setUniform_Unsafe(int location, int count, float* values)
-{
-    _cgmUniform1fv(location, count, values);
-}
-
-void Program::setUniform_Unsafe(const char* name, int count, float* values)
-{
-    _cgmUniform1fv(getUniformLocation(name), count, values);
-}
-
-void Program::setUniform2(int location, int count, float* values)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform2fv(location, count, values);
-}
-
-void Program::setUniform2(const char* name, int count, float* values)
-{
-    _cgmUniform2fv(getUniformLocation(name), count, values);
-}
-
-void Program::setUniform2_Unsafe(int location, int count, float* values)
-{
-    _cgmUniform2fv(location, count, values);
-}
-
-void Program::setUniform2_Unsafe(const char* name, int count, float* values)
-{
-    _cgmUniform2fv(getUniformLocation(name), count, values);
-}
-
-void Program::setUniform3(int location, int count, float* values)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform3fv(location, count, values);
-}
-
-void Program::setUniform3(const char* name, int count, float* values)
-{
-    _cgmUniform3fv(getUniformLocation(name), count, values);
-}
-
-void Program::setUniform3_Unsafe(int location, int count, float* values)
+namespace
 {
-    _cgmUniform3fv(location, count, values);
-}
-
-void Program::setUniform3_Unsafe(const char* name, int count, float* values)
-{
-    _cgmUniform3fv(getUniformLocation(name), count, values);
-}
-
-// setUniform4 with floats uploads count vec3 values, not vec4: programs
-// written against it declare vec3 arrays and pass packed triples.
 
-void Program::setUniform4(int location, int count, float* values)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform3fv(location, count, values);
-}
+// GLSL bool and int uniforms take GLint: a bool as 0 or 1, an unsigned char
+// zero-extended (200 stays 200, never normalised, never sign-extended).
+GLint glValue(bool value) { return value ? 1 : 0; }
+GLint glValue(unsigned char value) { return static_cast<GLint>(value); }
+GLint glValue(int value) { return value; }
+GLfloat glValue(float value) { return value; }
 
-void Program::setUniform4(const char* name, int count, float* values)
-{
-    _cgmUniform3fv(getUniformLocation(name), count, values);
-}
+void upload(GLint l, GLint x) { _cgmUniform1i(l, x); }
+void upload(GLint l, GLint x, GLint y) { _cgmUniform2i(l, x, y); }
+void upload(GLint l, GLint x, GLint y, GLint z) { _cgmUniform3i(l, x, y, z); }
+void upload(GLint l, GLint x, GLint y, GLint z, GLint w) { _cgmUniform4i(l, x, y, z, w); }
+void upload(GLint l, GLfloat x) { _cgmUniform1f(l, x); }
+void upload(GLint l, GLfloat x, GLfloat y) { _cgmUniform2f(l, x, y); }
+void upload(GLint l, GLfloat x, GLfloat y, GLfloat z) { _cgmUniform3f(l, x, y, z); }
+void upload(GLint l, GLfloat x, GLfloat y, GLfloat z, GLfloat w) { _cgmUniform4f(l, x, y, z, w); }
 
-void Program::setUniform4_Unsafe(int location, int count, float* values)
+void requireEnabled(Program const& program, int line)
 {
-    _cgmUniform3fv(location, count, values);
+    if (!program.isEnabled())
+        detail::raiseInternal(__FILE__, line, kMustBeEnabled);
 }
 
-void Program::setUniform4_Unsafe(const char* name, int count, float* values)
+// The flavours, over an upload to a location.
+template <class Upload>
+void checked(Program const& program, int line, GLint location, Upload upload)
 {
-    _cgmUniform3fv(getUniformLocation(name), count, values);
-}
+    requireEnabled(program, line);
+    upload(location);
+}
+
+template <class Upload>
+void checkedByName(Program const& program, int line, const char* name, Upload upload)
+{
+    requireEnabled(program, line);
+    checked(program, line, program.getUniformLocation(name), upload);
+}
+
+template <class Upload>
+void unchecked(GLint location, Upload upload)
+{
+    if (location != Program::nUnknownLocation)
+        upload(location);
+}
+
+// Uploads of one to four values, converted for GL.
+template <class... V>
+auto values(V... v)
+{
+    return [=](GLint location) { upload(location, glValue(v)...); };
+}
+
+// Uploads of count matrices through one of the glUniformMatrix*fv pointers,
+// read at the call (a test may have replaced it).
+auto matrices(PFN_cgmUniformMatrix2fv const* entry, int count, const float* values, unsigned char transpose)
+{
+    return [=](GLint location) { (*entry)(location, count, transpose, values); };
+}
+
+// The array setters. What callers rely on, kept here on purpose:
+//
+//   member         int* values     float* values
+//   setUniform     glUniform1iv    glUniform1fv
+//   setUniform2    glUniform2iv    glUniform2fv
+//   setUniform3    glUniform3iv    glUniform3fv
+//   setUniform4    glUniform4iv    glUniform3fv  (vec3 triples, not vec4)
+//
+//   flavour                 checks enabled   skips location -1
+//   checked by location     yes              no (GL ignores it)
+//   checked by name         no               no
+//   unchecked by location   no               with int* values only
+//   unchecked by name       no               no
+struct ArrayCalls
+{
+    PFN_cgmUniform1iv const* ints;
+    PFN_cgmUniform1fv const* floats;
+};
+const ArrayCalls kArrayCalls[] = {
+    { &_cgmUniform1iv, &_cgmUniform1fv },
+    { &_cgmUniform2iv, &_cgmUniform2fv },
+    { &_cgmUniform3iv, &_cgmUniform3fv },
+    { &_cgmUniform4iv, &_cgmUniform3fv },
+};
+
+struct ArrayFlavour
+{
+    bool checksEnabled;
+    bool skipsUnknownInts;
+};
+const ArrayFlavour kCheckedArray = { true, false };
+const ArrayFlavour kCheckedArrayByName = { false, false };
+const ArrayFlavour kUncheckedArray = { false, true };
+const ArrayFlavour kUncheckedArrayByName = { false, false };
+
+bool skipsUnknown(ArrayFlavour const& flavour, GLint const*) { return flavour.skipsUnknownInts; }
+bool skipsUnknown(ArrayFlavour const&, GLfloat const*) { return false; }
+
+PFN_cgmUniform1iv const* arrayCall(int components, int*) { return kArrayCalls[components - 1].ints; }
+PFN_cgmUniform1fv const* arrayCall(int components, float*) { return kArrayCalls[components - 1].floats; }
+
+template <class T>
+void setArray(Program const& program, ArrayFlavour const& flavour, int line, GLint location, int components,
+              int count, T* values)
+{
+    if (flavour.checksEnabled)
+        requireEnabled(program, line);
+    if (location == Program::nUnknownLocation && skipsUnknown(flavour, values))
+        return;
+    (*arrayCall(components, values))(location, count, values);
+}
+
+} // namespace
+
+// clang-format off
+void Program::setUniform(int l, bool x) { checked(*this, __LINE__, l, values(x)); }
+void Program::setUniform(const char* n, bool x) { checkedByName(*this, __LINE__, n, values(x)); }
+void Program::setUniform_Unsafe(int l, bool x) { unchecked(l, values(x)); }
+void Program::setUniform_Unsafe(const char* n, bool x) { unchecked(getUniformLocation(n), values(x)); }
+void Program::setUniform(int l, bool x, bool y) { checked(*this, __LINE__, l, values(x, y)); }
+void Program::setUniform(const char* n, bool x, bool y) { checkedByName(*this, __LINE__, n, values(x, y)); }
+void Program::setUniform_Unsafe(int l, bool x, bool y) { unchecked(l, values(x, y)); }
+void Program::setUniform_Unsafe(const char* n, bool x, bool y) { unchecked(getUniformLocation(n), values(x, y)); }
+void Program::setUniform(int l, bool x, bool y, bool z) { checked(*this, __LINE__, l, values(x, y, z)); }
+void Program::setUniform(const char* n, bool x, bool y, bool z) { checkedByName(*this, kThreeBoolsByNameLine, n, values(x, y, z)); }
+void Program::setUniform_Unsafe(int l, bool x, bool y, bool z) { unchecked(l, values(x, y, z)); }
+void Program::setUniform_Unsafe(const char* n, bool x, bool y, bool z) { unchecked(getUniformLocation(n), values(x, y, z)); }
+void Program::setUniform(int l, bool x, bool y, bool z, bool w) { checked(*this, __LINE__, l, values(x, y, z, w)); }
+void Program::setUniform(const char* n, bool x, bool y, bool z, bool w) { checkedByName(*this, __LINE__, n, values(x, y, z, w)); }
+void Program::setUniform_Unsafe(int l, bool x, bool y, bool z, bool w) { unchecked(l, values(x, y, z, w)); }
+void Program::setUniform_Unsafe(const char* n, bool x, bool y, bool z, bool w) { unchecked(getUniformLocation(n), values(x, y, z, w)); }
+
+void Program::setUniform(int l, unsigned char x) { checked(*this, __LINE__, l, values(x)); }
+void Program::setUniform(const char* n, unsigned char x) { checkedByName(*this, __LINE__, n, values(x)); }
+void Program::setUniform_Unsafe(int l, unsigned char x) { unchecked(l, values(x)); }
+void Program::setUniform_Unsafe(const char* n, unsigned char x) { unchecked(getUniformLocation(n), values(x)); }
+void Program::setUniform(int l, unsigned char x, unsigned char y) { checked(*this, __LINE__, l, values(x, y)); }
+void Program::setUniform(const char* n, unsigned char x, unsigned char y) { checkedByName(*this, __LINE__, n, values(x, y)); }
+void Program::setUniform_Unsafe(int l, unsigned char x, unsigned char y) { unchecked(l, values(x, y)); }
+void Program::setUniform_Unsafe(const char* n, unsigned char x, unsigned char y) { unchecked(getUniformLocation(n), values(x, y)); }
+void Program::setUniform(int l, unsigned char x, unsigned char y, unsigned char z) { checked(*this, __LINE__, l, values(x, y, z)); }
+void Program::setUniform(const char* n, unsigned char x, unsigned char y, unsigned char z) { checkedByName(*this, __LINE__, n, values(x, y, z)); }
+void Program::setUniform_Unsafe(int l, unsigned char x, unsigned char y, unsigned char z) { unchecked(l, values(x, y, z)); }
+void Program::setUniform_Unsafe(const char* n, unsigned char x, unsigned char y, unsigned char z) { unchecked(getUniformLocation(n), values(x, y, z)); }
+void Program::setUniform(int l, unsigned char x, unsigned char y, unsigned char z, unsigned char w) { checked(*this, __LINE__, l, values(x, y, z, w)); }
+void Program::setUniform(const char* n, unsigned char x, unsigned char y, unsigned char z, unsigned char w) { checkedByName(*this, __LINE__, n, values(x, y, z, w)); }
+void Program::setUniform_Unsafe(int l, unsigned char x, unsigned char y, unsigned char z, unsigned char w) { unchecked(l, values(x, y, z, w)); }
+void Program::setUniform_Unsafe(const char* n, unsigned char x, unsigned char y, unsigned char z, unsigned char w) { unchecked(getUniformLocation(n), values(x, y, z, w)); }
+
+void Program::setUniform(int l, int x) { checked(*this, __LINE__, l, values(x)); }
+void Program::setUniform(const char* n, int x) { checkedByName(*this, __LINE__, n, values(x)); }
+void Program::setUniform_Unsafe(int l, int x) { unchecked(l, values(x)); }
+void Program::setUniform_Unsafe(const char* n, int x) { unchecked(getUniformLocation(n), values(x)); }
+void Program::setUniform(int l, int x, int y) { checked(*this, __LINE__, l, values(x, y)); }
+void Program::setUniform(const char* n, int x, int y) { checkedByName(*this, __LINE__, n, values(x, y)); }
+void Program::setUniform_Unsafe(int l, int x, int y) { unchecked(l, values(x, y)); }
+void Program::setUniform_Unsafe(const char* n, int x, int y) { unchecked(getUniformLocation(n), values(x, y)); }
+void Program::setUniform(int l, int x, int y, int z) { checked(*this, __LINE__, l, values(x, y, z)); }
+void Program::setUniform(const char* n, int x, int y, int z) { checkedByName(*this, __LINE__, n, values(x, y, z)); }
+void Program::setUniform_Unsafe(int l, int x, int y, int z) { unchecked(l, values(x, y, z)); }
+void Program::setUniform_Unsafe(const char* n, int x, int y, int z) { unchecked(getUniformLocation(n), values(x, y, z)); }
+void Program::setUniform(int l, int x, int y, int z, int w) { checked(*this, __LINE__, l, values(x, y, z, w)); }
+void Program::setUniform(const char* n, int x, int y, int z, int w) { checkedByName(*this, __LINE__, n, values(x, y, z, w)); }
+void Program::setUniform_Unsafe(int l, int x, int y, int z, int w) { unchecked(l, values(x, y, z, w)); }
+void Program::setUniform_Unsafe(const char* n, int x, int y, int z, int w) { unchecked(getUniformLocation(n), values(x, y, z, w)); }
+
+void Program::setUniform(int l, float x) { checked(*this, __LINE__, l, values(x)); }
+void Program::setUniform(const char* n, float x) { checkedByName(*this, __LINE__, n, values(x)); }
+void Program::setUniform_Unsafe(int l, float x) { unchecked(l, values(x)); }
+void Program::setUniform_Unsafe(const char* n, float x) { unchecked(getUniformLocation(n), values(x)); }
+void Program::setUniform(int l, float x, float y) { checked(*this, __LINE__, l, values(x, y)); }
+void Program::setUniform(const char* n, float x, float y) { checkedByName(*this, __LINE__, n, values(x, y)); }
+void Program::setUniform_Unsafe(int l, float x, float y) { unchecked(l, values(x, y)); }
+void Program::setUniform_Unsafe(const char* n, float x, float y) { unchecked(getUniformLocation(n), values(x, y)); }
+void Program::setUniform(int l, float x, float y, float z) { checked(*this, __LINE__, l, values(x, y, z)); }
+void Program::setUniform(const char* n, float x, float y, float z) { checkedByName(*this, __LINE__, n, values(x, y, z)); }
+void Program::setUniform_Unsafe(int l, float x, float y, float z) { unchecked(l, values(x, y, z)); }
+void Program::setUniform_Unsafe(const char* n, float x, float y, float z) { unchecked(getUniformLocation(n), values(x, y, z)); }
+void Program::setUniform(int l, float x, float y, float z, float w) { checked(*this, __LINE__, l, values(x, y, z, w)); }
+void Program::setUniform(const char* n, float x, float y, float z, float w) { checkedByName(*this, __LINE__, n, values(x, y, z, w)); }
+void Program::setUniform_Unsafe(int l, float x, float y, float z, float w) { unchecked(l, values(x, y, z, w)); }
+void Program::setUniform_Unsafe(const char* n, float x, float y, float z, float w) { unchecked(getUniformLocation(n), values(x, y, z, w)); }
+
+void Program::setUniformSampler1D(int l, int unit) { checked(*this, __LINE__, l, values(unit)); }
+void Program::setUniformSampler1D(const char* n, int unit) { checkedByName(*this, __LINE__, n, values(unit)); }
+void Program::setUniformSampler1D_Unsafe(int l, int unit) { unchecked(l, values(unit)); }
+void Program::setUniformSampler1D_Unsafe(const char* n, int unit) { unchecked(getUniformLocation(n), values(unit)); }
+void Program::setUniformSampler2D(int l, int unit) { checked(*this, __LINE__, l, values(unit)); }
+void Program::setUniformSampler2D(const char* n, int unit) { checkedByName(*this, __LINE__, n, values(unit)); }
+void Program::setUniformSampler2D_Unsafe(int l, int unit) { unchecked(l, values(unit)); }
+void Program::setUniformSampler2D_Unsafe(const char* n, int unit) { unchecked(getUniformLocation(n), values(unit)); }
+void Program::setUniformSampler3D(int l, int unit) { checked(*this, __LINE__, l, values(unit)); }
+void Program::setUniformSampler3D(const char* n, int unit) { checkedByName(*this, __LINE__, n, values(unit)); }
+void Program::setUniformSampler3D_Unsafe(int l, int unit) { unchecked(l, values(unit)); }
+void Program::setUniformSampler3D_Unsafe(const char* n, int unit) { unchecked(getUniformLocation(n), values(unit)); }
+void Program::setUniformSampler2DRECT(int l, int unit) { checked(*this, __LINE__, l, values(unit)); }
+void Program::setUniformSampler2DRECT(const char* n, int unit) { checkedByName(*this, __LINE__, n, values(unit)); }
+void Program::setUniformSampler2DRECT_Unsafe(int l, int unit) { unchecked(l, values(unit)); }
+void Program::setUniformSampler2DRECT_Unsafe(const char* n, int unit) { unchecked(getUniformLocation(n), values(unit)); }
+
+void Program::setUniformMatrices2(int l, int c, const float* v, unsigned char t) { checked(*this, __LINE__, l, matrices(&_cgmUniformMatrix2fv, c, v, t)); }
+void Program::setUniformMatrices2(const char* n, int c, const float* v, unsigned char t) { setUniformMatrices2(getUniformLocation(n), c, v, t); }
+void Program::setUniformMatrices2_Unsafe(int l, int c, const float* v, unsigned char t) { unchecked(l, matrices(&_cgmUniformMatrix2fv, c, v, t)); }
+void Program::setUniformMatrices2_Unsafe(const char* n, int c, const float* v, unsigned char t) { setUniformMatrices2_Unsafe(getUniformLocation(n), c, v, t); }
+void Program::setUniformMatrices3(int l, int c, const float* v, unsigned char t) { checked(*this, __LINE__, l, matrices(&_cgmUniformMatrix3fv, c, v, t)); }
+void Program::setUniformMatrices3(const char* n, int c, const float* v, unsigned char t) { setUniformMatrices3(getUniformLocation(n), c, v, t); }
+void Program::setUniformMatrices3_Unsafe(int l, int c, const float* v, unsigned char t) { unchecked(l, matrices(&_cgmUniformMatrix3fv, c, v, t)); }
+void Program::setUniformMatrices3_Unsafe(const char* n, int c, const float* v, unsigned char t) { setUniformMatrices3_Unsafe(getUniformLocation(n), c, v, t); }
+void Program::setUniformMatrices4(int l, int c, const float* v, unsigned char t) { checked(*this, __LINE__, l, matrices(&_cgmUniformMatrix4fv, c, v, t)); }
+void Program::setUniformMatrices4(const char* n, int c, const float* v, unsigned char t) { setUniformMatrices4(getUniformLocation(n), c, v, t); }
+void Program::setUniformMatrices4_Unsafe(int l, int c, const float* v, unsigned char t) { unchecked(l, matrices(&_cgmUniformMatrix4fv, c, v, t)); }
+void Program::setUniformMatrices4_Unsafe(const char* n, int c, const float* v, unsigned char t) { setUniformMatrices4_Unsafe(getUniformLocation(n), c, v, t); }
+
+void Program::setUniformMatrix2(int l, const float* v, unsigned char t) { setUniformMatrices2(l, 1, v, t); }
+void Program::setUniformMatrix2(const char* n, const float* v, unsigned char t) { setUniformMatrices2(getUniformLocation(n), 1, v, t); }
+void Program::setUniformMatrix2_Unsafe(int l, const float* v, unsigned char t) { setUniformMatrices2_Unsafe(l, 1, v, t); }
+void Program::setUniformMatrix2_Unsafe(const char* n, const float* v, unsigned char t) { setUniformMatrices2_Unsafe(getUniformLocation(n), 1, v, t); }
+void Program::setUniformMatrix3(int l, const float* v, unsigned char t) { setUniformMatrices3(l, 1, v, t); }
+void Program::setUniformMatrix3(const char* n, const float* v, unsigned char t) { setUniformMatrices3(getUniformLocation(n), 1, v, t); }
+void Program::setUniformMatrix3_Unsafe(int l, const float* v, unsigned char t) { setUniformMatrices3_Unsafe(l, 1, v, t); }
+void Program::setUniformMatrix3_Unsafe(const char* n, const float* v, unsigned char t) { setUniformMatrices3_Unsafe(getUniformLocation(n), 1, v, t); }
+void Program::setUniformMatrix4(int l, const float* v, unsigned char t) { setUniformMatrices4(l, 1, v, t); }
+void Program::setUniformMatrix4(const char* n, const float* v, unsigned char t) { setUniformMatrices4(getUniformLocation(n), 1, v, t); }
+void Program::setUniformMatrix4_Unsafe(int l, const float* v, unsigned char t) { setUniformMatrices4_Unsafe(l, 1, v, t); }
+void Program::setUniformMatrix4_Unsafe(const char* n, const float* v, unsigned char t) { setUniformMatrices4_Unsafe(getUniformLocation(n), 1, v, t); }
+
+void Program::setUniform(int l, int c, int* v) { setArray(*this, kCheckedArray, __LINE__, l, 1, c, v); }
+void Program::setUniform(const char* n, int c, int* v) { setArray(*this, kCheckedArrayByName, 0, getUniformLocation(n), 1, c, v); }
+void Program::setUniform_Unsafe(int l, int c, int* v) { setArray(*this, kUncheckedArray, 0, l, 1, c, v); }
+void Program::setUniform_Unsafe(const char* n, int c, int* v) { setArray(*this, kUncheckedArrayByName, 0, getUniformLocation(n), 1, c, v); }
+void Program::setUniform2(int l, int c, int* v) { setArray(*this, kCheckedArray, __LINE__, l, 2, c, v); }
+void Program::setUniform2(const char* n, int c, int* v) { setArray(*this, kCheckedArrayByName, 0, getUniformLocation(n), 2, c, v); }
+void Program::setUniform2_Unsafe(int l, int c, int* v) { setArray(*this, kUncheckedArray, 0, l, 2, c, v); }
+void Program::setUniform2_Unsafe(const char* n, int c, int* v) { setArray(*this, kUncheckedArrayByName, 0, getUniformLocation(n), 2, c, v); }
+void Program::setUniform3(int l, int c, int* v) { setArray(*this, kCheckedArray, __LINE__, l, 3, c, v); }
+void Program::setUniform3(const char* n, int c, int* v) { setArray(*this, kCheckedArrayByName, 0, getUniformLocation(n), 3, c, v); }
+void Program::setUniform3_Unsafe(int l, int c, int* v) { setArray(*this, kUncheckedArray, 0, l, 3, c, v); }
+void Program::setUniform3_Unsafe(const char* n, int c, int* v) { setArray(*this, kUncheckedArrayByName, 0, getUniformLocation(n), 3, c, v); }
+void Program::setUniform4(int l, int c, int* v) { setArray(*this, kCheckedArray, __LINE__, l, 4, c, v); }
+void Program::setUniform4(const char* n, int c, int* v) { setArray(*this, kCheckedArrayByName, 0, getUniformLocation(n), 4, c, v); }
+void Program::setUniform4_Unsafe(int l, int c, int* v) { setArray(*this, kUncheckedArray, 0, l, 4, c, v); }
+void Program::setUniform4_Unsafe(const char* n, int c, int* v) { setArray(*this, kUncheckedArrayByName, 0, getUniformLocation(n), 4, c, v); }
+
+void Program::setUniform(int l, int c, float* v) { setArray(*this, kCheckedArray, __LINE__, l, 1, c, v); }
+void Program::setUniform(const char* n, int c, float* v) { setArray(*this, kCheckedArrayByName, 0, getUniformLocation(n), 1, c, v); }
+void Program::setUniform_Unsafe(int l, int c, float* v) { setArray(*this, kUncheckedArray, 0, l, 1, c, v); }
+void Program::setUniform_Unsafe(const char* n, int c, float* v) { setArray(*this, kUncheckedArrayByName, 0, getUniformLocation(n), 1, c, v); }
+void Program::setUniform2(int l, int c, float* v) { setArray(*this, kCheckedArray, __LINE__, l, 2, c, v); }
+void Program::setUniform2(const char* n, int c, float* v) { setArray(*this, kCheckedArrayByName, 0, getUniformLocation(n), 2, c, v); }
+void Program::setUniform2_Unsafe(int l, int c, float* v) { setArray(*this, kUncheckedArray, 0, l, 2, c, v); }
+void Program::setUniform2_Unsafe(const char* n, int c, float* v) { setArray(*this, kUncheckedArrayByName, 0, getUniformLocation(n), 2, c, v); }
+void Program::setUniform3(int l, int c, float* v) { setArray(*this, kCheckedArray, __LINE__, l, 3, c, v); }
+void Program::setUniform3(const char* n, int c, float* v) { setArray(*this, kCheckedArrayByName, 0, getUniformLocation(n), 3, c, v); }
+void Program::setUniform3_Unsafe(int l, int c, float* v) { setArray(*this, kUncheckedArray, 0, l, 3, c, v); }
+void Program::setUniform3_Unsafe(const char* n, int c, float* v) { setArray(*this, kUncheckedArrayByName, 0, getUniformLocation(n), 3, c, v); }
+void Program::setUniform4(int l, int c, float* v) { setArray(*this, kCheckedArray, __LINE__, l, 4, c, v); }
+void Program::setUniform4(const char* n, int c, float* v) { setArray(*this, kCheckedArrayByName, 0, getUniformLocation(n), 4, c, v); }
+void Program::setUniform4_Unsafe(int l, int c, float* v) { setArray(*this, kUncheckedArray, 0, l, 4, c, v); }
+void Program::setUniform4_Unsafe(const char* n, int c, float* v) { setArray(*this, kUncheckedArrayByName, 0, getUniformLocation(n), 4, c, v); }
+// clang-format on
 
 } // namespace OGL
 } // namespace Oru
