@@ -58,11 +58,18 @@ public:
         void setRekorderPathname(std::string& pathname);
         /// The recorder path name.
         std::string const& rekorderPathname() const;
+        /// Wrapper members check glGetError before they return and throw
+        /// ExceptionOGL naming the member ("Texture2::subImage: invalid
+        /// value"). Off by default: wrappers then leave GL errors to GL.
+        void setCheckedWrappers(bool value) { bCheckedWrappers_ = value; }
+        /// The checked-wrappers option.
+        bool checkedWrappers() const { return bCheckedWrappers_; }
 
     private:
         bool bThrowOnNullContext_;
         bool bFlushOnMakeCurrentMacOnly_;
         std::string rekorderPathname_;
+        bool bCheckedWrappers_ = false;
     };
 
     /// The instance; throws InternalException while the layer is not started.

@@ -5,6 +5,7 @@
 #include "oru_ogl/extensionator/ExtensionManager.h"
 #include "oru_ogl/ogl/GLConstants.h"
 #include "oru_ogl/ogl/TwoWayTable.h"
+#include "oru_ogl/ogl/WrapperCheck.h"
 
 // Buffer objects through the GL 1.5 entry points. The extensions are what the
 // constructor requires; the 1.5 names are the same functions. A driver that
@@ -93,6 +94,7 @@ Buffer::Buffer(long long nSize, Type /*type*/, Usage usage, const void* data)
     bind();
     _cgmBufferData(target(), static_cast<GLsizeiptr>(nSize), data, glUsage);
     _cgmBindBuffer(target(), previous);
+    ORU_CHECK_GL(Buffer);
 }
 
 Buffer::~Buffer()
@@ -118,30 +120,35 @@ bool Buffer::isMapped() const
 void Buffer::bind()
 {
     _cgmBindBuffer(target(), n_ObjectID);
+    ORU_CHECK_GL(Buffer);
 }
 
 void Buffer::bindDefaultUnpackBuffer()
 {
     loadBufferEntryPoints();
     _cgmBindBuffer(GL_PIXEL_UNPACK_BUFFER, 0);
+    ORU_CHECK_GL(Buffer);
 }
 
 void Buffer::bindDefaultPackBuffer()
 {
     loadBufferEntryPoints();
     _cgmBindBuffer(GL_PIXEL_PACK_BUFFER, 0);
+    ORU_CHECK_GL(Buffer);
 }
 
 void Buffer::bindDefaultArrayBuffer()
 {
     loadBufferEntryPoints();
     _cgmBindBuffer(GL_ARRAY_BUFFER, 0);
+    ORU_CHECK_GL(Buffer);
 }
 
 void Buffer::bindDefaultElementArrayBuffer()
 {
     loadBufferEntryPoints();
     _cgmBindBuffer(GL_ELEMENT_ARRAY_BUFFER, 0);
+    ORU_CHECK_GL(Buffer);
 }
 
 bool Buffer::isUnpackBuffer() const
@@ -203,6 +210,7 @@ void* Buffer::map(unsigned int access)
         ORU_THROW("Buffer is already mapped (this will cause a GL error)");
     void* pointer = _cgmMapBuffer(target(), access);
     bMapped_ = true;
+    ORU_CHECK_GL(Buffer);
     return pointer;
 }
 
@@ -216,6 +224,7 @@ void Buffer::unmap()
     if (_cgmUnmapBuffer(target()) == GL_FALSE)
         ORU_THROW("Cannot unmap buffer");
     bMapped_ = false;
+    ORU_CHECK_GL(Buffer);
 }
 
 void Buffer::subData(long long offset, long long size, const void* data)
@@ -227,6 +236,7 @@ void Buffer::subData(long long offset, long long size, const void* data)
     if (offset < 0)
         ORU_THROW("Buffer::subData offset must not be negative");
     _cgmBufferSubData(target(), static_cast<GLintptr>(offset), static_cast<GLsizeiptr>(size), data);
+    ORU_CHECK_GL(Buffer);
 }
 
 void Buffer::getSubData(long long offset, long long size, void* data)
@@ -238,6 +248,7 @@ void Buffer::getSubData(long long offset, long long size, void* data)
     if (offset < 0)
         ORU_THROW("Buffer::getSubData offset must not be negative");
     _cgmGetBufferSubData(target(), static_cast<GLintptr>(offset), static_cast<GLsizeiptr>(size), data);
+    ORU_CHECK_GL(Buffer);
 }
 
 // Kept as the place for a check of the current buffer object; it has none.

@@ -4,13 +4,15 @@
 #include "oru_ogl/extensionator/EntryPoints.h"
 #include "oru_ogl/extensionator/ExtensionManager.h"
 #include "oru_ogl/ogl/GLConstants.h"
+#include "oru_ogl/ogl/WrapperCheck.h"
 
 #include <string>
 #include <vector>
 
 // GLSL programs. Like the shaders, they call the OpenGL 2.0 entry points
 // through the _cgm pointers, not through the client's interception chain, and
-// leave GL errors to GL. isEnabled() alone uses the 1.1 glGetIntegerv.
+// leave GL errors to GL unless checked wrappers are on (WrapperCheck.h).
+// isEnabled() alone uses the 1.1 glGetIntegerv.
 
 namespace Oru
 {
@@ -55,6 +57,7 @@ Program::Program()
     ORU_VERIFY_AT(kSupportLine, Oru::OGL::ExtensionManager::Instance()->isSupported(OPEN_GL_2_0));
     _hObject = _cgmCreateProgram();
     ORU_VERIFY_AT(kCreateLine, _hObject != 0);
+    ORU_CHECK_GL(Program);
 }
 
 Program::~Program() noexcept(false)
@@ -86,6 +89,7 @@ void Program::attach(VertexShader* shader)
     if (!shader->isLoaded())
         ORU_THROW_AT(kAttachVertexLine, "Vertex shader must be loaded before attaching");
     _cgmAttachShader(_hObject, shader->objectID());
+    ORU_CHECK_GL(Program);
 }
 
 // The same for the fragment stage; the two stay separate members so that
@@ -95,17 +99,20 @@ void Program::attach(FragmentShader* shader)
     if (!shader->isLoaded())
         ORU_THROW_AT(kAttachFragmentLine, "Fragment shader must be loaded before attaching");
     _cgmAttachShader(_hObject, shader->objectID());
+    ORU_CHECK_GL(Program);
 }
 
 // GL reports a shader that is not attached as its own error.
 void Program::detach(const VertexShader* shader)
 {
     _cgmDetachShader(_hObject, shader->objectID());
+    ORU_CHECK_GL(Program);
 }
 
 void Program::detach(const FragmentShader* shader)
 {
     _cgmDetachShader(_hObject, shader->objectID());
+    ORU_CHECK_GL(Program);
 }
 
 // Batch after batch until GL lists none; a deleted shader goes with its detach.
@@ -120,6 +127,7 @@ void Program::detachAllShaders()
             _cgmDetachShader(_hObject, names[i]);
         _cgmGetAttachedShaders(_hObject, kAttachedBatch, &count, names);
     }
+    ORU_CHECK_GL(Program);
 }
 
 namespace
@@ -151,11 +159,13 @@ void detachAllOfType(GLuint program, GLenum type)
 void Program::detachAllVertexShaders()
 {
     detachAllOfType(_hObject, GL_VERTEX_SHADER);
+    ORU_CHECK_GL(Program);
 }
 
 void Program::detachAllFragmentShaders()
 {
     detachAllOfType(_hObject, GL_FRAGMENT_SHADER);
+    ORU_CHECK_GL(Program);
 }
 
 // ---------------------------------------------------------------------------
@@ -178,6 +188,7 @@ std::string readLog(Program& program, int length)
 void Program::link(bool check)
 {
     _cgmLinkProgram(_hObject);
+    ORU_CHECK_GL(Program);
     if (!check)
         return;
     if (!isLinked())
@@ -222,6 +233,7 @@ bool Program::isLinked() const
 {
     GLint status = 0;
     _cgmGetProgramiv(_hObject, GL_LINK_STATUS, &status);
+    ORU_CHECK_GL(Program);
     return status != 0;
 }
 
@@ -232,6 +244,7 @@ bool Program::validate() const
     _cgmValidateProgram(_hObject);
     GLint status = 0;
     _cgmGetProgramiv(_hObject, GL_VALIDATE_STATUS, &status);
+    ORU_CHECK_GL(Program);
     return status != 0;
 }
 
@@ -240,6 +253,7 @@ int Program::getInfoLogLength() const
 {
     GLint length = 0;
     _cgmGetProgramiv(_hObject, GL_INFO_LOG_LENGTH, &length);
+    ORU_CHECK_GL(Program);
     return length;
 }
 
@@ -247,6 +261,7 @@ int Program::getInfoLogLength() const
 void Program::getInfoLog(int maxLength, char* buffer)
 {
     _cgmGetProgramInfoLog(_hObject, maxLength, nullptr, buffer);
+    ORU_CHECK_GL(Program);
 }
 
 // ---------------------------------------------------------------------------
@@ -261,12 +276,14 @@ void Program::enable()
     if (!isLinked())
         ORU_THROW_AT(kEnableLine, "Program must be linked before being enabled");
     _cgmUseProgram(_hObject);
+    ORU_CHECK_GL(Program);
 }
 
 // Back to the fixed-function pipeline, whichever program was current.
 void Program::disable()
 {
     _cgmUseProgram(0);
+    ORU_CHECK_GL(Program);
 }
 
 // Asked of GL each time: another wrapper or client code may have changed the
@@ -276,6 +293,7 @@ bool Program::isEnabled() const
 {
     GLint current = 0;
     glGetIntegerv(GL_CURRENT_PROGRAM, &current);
+    ORU_CHECK_GL(Program);
     return static_cast<GLuint>(current) == _hObject;
 }
 
@@ -331,18 +349,23 @@ void Program::loadFragmentShader(unsigned int count, const char** strings, int* 
 
 int Program::getUniformLocation(const char* name) const
 {
-    return _cgmGetUniformLocation(_hObject, name);
+    const int location = _cgmGetUniformLocation(_hObject, name);
+    ORU_CHECK_GL(Program);
+    return location;
 }
 
 // Takes effect at the next link.
 void Program::setAttributeLocation(unsigned int index, const char* name)
 {
     _cgmBindAttribLocation(_hObject, index, name);
+    ORU_CHECK_GL(Program);
 }
 
 int Program::getAttributeLocation(const char* name)
 {
-    return _cgmGetAttribLocation(_hObject, name);
+    const int location = _cgmGetAttribLocation(_hObject, name);
+    ORU_CHECK_GL(Program);
+    return location;
 }
 
 unsigned int Program::getActiveUniformCount() const
@@ -351,6 +374,7 @@ unsigned int Program::getActiveUniformCount() const
         ORU_THROW_AT(kActiveUniformCountLine, kMustBeLinked);
     GLint count = 0;
     _cgmGetProgramiv(_hObject, GL_ACTIVE_UNIFORMS, &count);
+    ORU_CHECK_GL(Program);
     return static_cast<unsigned int>(count);
 }
 
@@ -363,6 +387,7 @@ void Program::getActiveUniform(unsigned int index, int bufSize, int* size, unsig
     if (!isLinked())
         ORU_THROW_AT(kActiveUniformLine, kMustBeLinked);
     _cgmGetActiveUniform(_hObject, index, bufSize, nullptr, size, type, name);
+    ORU_CHECK_GL(Program);
 }
 
 // The longest active uniform name with its NUL: a buffer of this size holds
@@ -380,6 +405,7 @@ int Program::getMaxUniformStringLength() const
         ORU_THROW_AT(kMaxUniformLengthLine, kMustBeLinked);
     GLint length = 0;
     _cgmGetProgramiv(_hObject, GL_ACTIVE_UNIFORM_MAX_LENGTH, &length);
+    ORU_CHECK_GL(Program);
     return length;
 }
 
@@ -447,25 +473,29 @@ void requireEnabled(Program const& program, int line)
 }
 
 // The flavours, over an upload to a location.
+// member names the setter for the GL error check of checked wrappers.
 template <class Upload>
-void checked(Program const& program, int line, GLint location, Upload upload)
+void checked(Program const& program, int line, char const* member, GLint location, Upload upload)
 {
     requireEnabled(program, line);
     upload(location);
+    WrapperCheck::after(__FILE__, __LINE__, "Program", member);
 }
 
 template <class Upload>
-void checkedByName(Program const& program, int line, const char* name, Upload upload)
+void checkedByName(Program const& program, int line, char const* member, const char* name, Upload upload)
 {
     requireEnabled(program, line);
-    checked(program, line, program.getUniformLocation(name), upload);
+    checked(program, line, member, program.getUniformLocation(name), upload);
 }
 
 template <class Upload>
-void unchecked(GLint location, Upload upload)
+void unchecked(char const* member, GLint location, Upload upload)
 {
-    if (location != Program::nUnknownLocation)
-        upload(location);
+    if (location == Program::nUnknownLocation)
+        return;
+    upload(location);
+    WrapperCheck::after(__FILE__, __LINE__, "Program", member);
 }
 
 // Uploads of one to four values, converted for GL.
@@ -524,115 +554,116 @@ PFN_cgmUniform1iv const* arrayCall(int components, int*) { return kArrayCalls[co
 PFN_cgmUniform1fv const* arrayCall(int components, float*) { return kArrayCalls[components - 1].floats; }
 
 template <class T>
-void setArray(Program const& program, ArrayFlavour const& flavour, int line, GLint location, int components,
-              int count, T* values)
+void setArray(Program const& program, ArrayFlavour const& flavour, char const* member, int line, GLint location,
+              int components, int count, T* values)
 {
     if (flavour.checksEnabled)
         requireEnabled(program, line);
     if (location == Program::nUnknownLocation && skipsUnknown(flavour, values))
         return;
     (*arrayCall(components, values))(location, count, values);
+    WrapperCheck::after(__FILE__, __LINE__, "Program", member);
 }
 
 } // namespace
 
 // clang-format off
-void Program::setUniform(int l, bool x) { checked(*this, __LINE__, l, values(x)); }
-void Program::setUniform(const char* n, bool x) { checkedByName(*this, __LINE__, n, values(x)); }
-void Program::setUniform_Unsafe(int l, bool x) { unchecked(l, values(x)); }
-void Program::setUniform_Unsafe(const char* n, bool x) { unchecked(getUniformLocation(n), values(x)); }
-void Program::setUniform(int l, bool x, bool y) { checked(*this, __LINE__, l, values(x, y)); }
-void Program::setUniform(const char* n, bool x, bool y) { checkedByName(*this, __LINE__, n, values(x, y)); }
-void Program::setUniform_Unsafe(int l, bool x, bool y) { unchecked(l, values(x, y)); }
-void Program::setUniform_Unsafe(const char* n, bool x, bool y) { unchecked(getUniformLocation(n), values(x, y)); }
-void Program::setUniform(int l, bool x, bool y, bool z) { checked(*this, __LINE__, l, values(x, y, z)); }
-void Program::setUniform(const char* n, bool x, bool y, bool z) { checkedByName(*this, kThreeBoolsByNameLine, n, values(x, y, z)); }
-void Program::setUniform_Unsafe(int l, bool x, bool y, bool z) { unchecked(l, values(x, y, z)); }
-void Program::setUniform_Unsafe(const char* n, bool x, bool y, bool z) { unchecked(getUniformLocation(n), values(x, y, z)); }
-void Program::setUniform(int l, bool x, bool y, bool z, bool w) { checked(*this, __LINE__, l, values(x, y, z, w)); }
-void Program::setUniform(const char* n, bool x, bool y, bool z, bool w) { checkedByName(*this, __LINE__, n, values(x, y, z, w)); }
-void Program::setUniform_Unsafe(int l, bool x, bool y, bool z, bool w) { unchecked(l, values(x, y, z, w)); }
-void Program::setUniform_Unsafe(const char* n, bool x, bool y, bool z, bool w) { unchecked(getUniformLocation(n), values(x, y, z, w)); }
+void Program::setUniform(int l, bool x) { checked(*this, __LINE__, __func__, l, values(x)); }
+void Program::setUniform(const char* n, bool x) { checkedByName(*this, __LINE__, __func__, n, values(x)); }
+void Program::setUniform_Unsafe(int l, bool x) { unchecked(__func__, l, values(x)); }
+void Program::setUniform_Unsafe(const char* n, bool x) { unchecked(__func__, getUniformLocation(n), values(x)); }
+void Program::setUniform(int l, bool x, bool y) { checked(*this, __LINE__, __func__, l, values(x, y)); }
+void Program::setUniform(const char* n, bool x, bool y) { checkedByName(*this, __LINE__, __func__, n, values(x, y)); }
+void Program::setUniform_Unsafe(int l, bool x, bool y) { unchecked(__func__, l, values(x, y)); }
+void Program::setUniform_Unsafe(const char* n, bool x, bool y) { unchecked(__func__, getUniformLocation(n), values(x, y)); }
+void Program::setUniform(int l, bool x, bool y, bool z) { checked(*this, __LINE__, __func__, l, values(x, y, z)); }
+void Program::setUniform(const char* n, bool x, bool y, bool z) { checkedByName(*this, kThreeBoolsByNameLine, __func__, n, values(x, y, z)); }
+void Program::setUniform_Unsafe(int l, bool x, bool y, bool z) { unchecked(__func__, l, values(x, y, z)); }
+void Program::setUniform_Unsafe(const char* n, bool x, bool y, bool z) { unchecked(__func__, getUniformLocation(n), values(x, y, z)); }
+void Program::setUniform(int l, bool x, bool y, bool z, bool w) { checked(*this, __LINE__, __func__, l, values(x, y, z, w)); }
+void Program::setUniform(const char* n, bool x, bool y, bool z, bool w) { checkedByName(*this, __LINE__, __func__, n, values(x, y, z, w)); }
+void Program::setUniform_Unsafe(int l, bool x, bool y, bool z, bool w) { unchecked(__func__, l, values(x, y, z, w)); }
+void Program::setUniform_Unsafe(const char* n, bool x, bool y, bool z, bool w) { unchecked(__func__, getUniformLocation(n), values(x, y, z, w)); }
 
-void Program::setUniform(int l, unsigned char x) { checked(*this, __LINE__, l, values(x)); }
-void Program::setUniform(const char* n, unsigned char x) { checkedByName(*this, __LINE__, n, values(x)); }
-void Program::setUniform_Unsafe(int l, unsigned char x) { unchecked(l, values(x)); }
-void Program::setUniform_Unsafe(const char* n, unsigned char x) { unchecked(getUniformLocation(n), values(x)); }
-void Program::setUniform(int l, unsigned char x, unsigned char y) { checked(*this, __LINE__, l, values(x, y)); }
-void Program::setUniform(const char* n, unsigned char x, unsigned char y) { checkedByName(*this, __LINE__, n, values(x, y)); }
-void Program::setUniform_Unsafe(int l, unsigned char x, unsigned char y) { unchecked(l, values(x, y)); }
-void Program::setUniform_Unsafe(const char* n, unsigned char x, unsigned char y) { unchecked(getUniformLocation(n), values(x, y)); }
-void Program::setUniform(int l, unsigned char x, unsigned char y, unsigned char z) { checked(*this, __LINE__, l, values(x, y, z)); }
-void Program::setUniform(const char* n, unsigned char x, unsigned char y, unsigned char z) { checkedByName(*this, __LINE__, n, values(x, y, z)); }
-void Program::setUniform_Unsafe(int l, unsigned char x, unsigned char y, unsigned char z) { unchecked(l, values(x, y, z)); }
-void Program::setUniform_Unsafe(const char* n, unsigned char x, unsigned char y, unsigned char z) { unchecked(getUniformLocation(n), values(x, y, z)); }
-void Program::setUniform(int l, unsigned char x, unsigned char y, unsigned char z, unsigned char w) { checked(*this, __LINE__, l, values(x, y, z, w)); }
-void Program::setUniform(const char* n, unsigned char x, unsigned char y, unsigned char z, unsigned char w) { checkedByName(*this, __LINE__, n, values(x, y, z, w)); }
-void Program::setUniform_Unsafe(int l, unsigned char x, unsigned char y, unsigned char z, unsigned char w) { unchecked(l, values(x, y, z, w)); }
-void Program::setUniform_Unsafe(const char* n, unsigned char x, unsigned char y, unsigned char z, unsigned char w) { unchecked(getUniformLocation(n), values(x, y, z, w)); }
+void Program::setUniform(int l, unsigned char x) { checked(*this, __LINE__, __func__, l, values(x)); }
+void Program::setUniform(const char* n, unsigned char x) { checkedByName(*this, __LINE__, __func__, n, values(x)); }
+void Program::setUniform_Unsafe(int l, unsigned char x) { unchecked(__func__, l, values(x)); }
+void Program::setUniform_Unsafe(const char* n, unsigned char x) { unchecked(__func__, getUniformLocation(n), values(x)); }
+void Program::setUniform(int l, unsigned char x, unsigned char y) { checked(*this, __LINE__, __func__, l, values(x, y)); }
+void Program::setUniform(const char* n, unsigned char x, unsigned char y) { checkedByName(*this, __LINE__, __func__, n, values(x, y)); }
+void Program::setUniform_Unsafe(int l, unsigned char x, unsigned char y) { unchecked(__func__, l, values(x, y)); }
+void Program::setUniform_Unsafe(const char* n, unsigned char x, unsigned char y) { unchecked(__func__, getUniformLocation(n), values(x, y)); }
+void Program::setUniform(int l, unsigned char x, unsigned char y, unsigned char z) { checked(*this, __LINE__, __func__, l, values(x, y, z)); }
+void Program::setUniform(const char* n, unsigned char x, unsigned char y, unsigned char z) { checkedByName(*this, __LINE__, __func__, n, values(x, y, z)); }
+void Program::setUniform_Unsafe(int l, unsigned char x, unsigned char y, unsigned char z) { unchecked(__func__, l, values(x, y, z)); }
+void Program::setUniform_Unsafe(const char* n, unsigned char x, unsigned char y, unsigned char z) { unchecked(__func__, getUniformLocation(n), values(x, y, z)); }
+void Program::setUniform(int l, unsigned char x, unsigned char y, unsigned char z, unsigned char w) { checked(*this, __LINE__, __func__, l, values(x, y, z, w)); }
+void Program::setUniform(const char* n, unsigned char x, unsigned char y, unsigned char z, unsigned char w) { checkedByName(*this, __LINE__, __func__, n, values(x, y, z, w)); }
+void Program::setUniform_Unsafe(int l, unsigned char x, unsigned char y, unsigned char z, unsigned char w) { unchecked(__func__, l, values(x, y, z, w)); }
+void Program::setUniform_Unsafe(const char* n, unsigned char x, unsigned char y, unsigned char z, unsigned char w) { unchecked(__func__, getUniformLocation(n), values(x, y, z, w)); }
 
-void Program::setUniform(int l, int x) { checked(*this, __LINE__, l, values(x)); }
-void Program::setUniform(const char* n, int x) { checkedByName(*this, __LINE__, n, values(x)); }
-void Program::setUniform_Unsafe(int l, int x) { unchecked(l, values(x)); }
-void Program::setUniform_Unsafe(const char* n, int x) { unchecked(getUniformLocation(n), values(x)); }
-void Program::setUniform(int l, int x, int y) { checked(*this, __LINE__, l, values(x, y)); }
-void Program::setUniform(const char* n, int x, int y) { checkedByName(*this, __LINE__, n, values(x, y)); }
-void Program::setUniform_Unsafe(int l, int x, int y) { unchecked(l, values(x, y)); }
-void Program::setUniform_Unsafe(const char* n, int x, int y) { unchecked(getUniformLocation(n), values(x, y)); }
-void Program::setUniform(int l, int x, int y, int z) { checked(*this, __LINE__, l, values(x, y, z)); }
-void Program::setUniform(const char* n, int x, int y, int z) { checkedByName(*this, __LINE__, n, values(x, y, z)); }
-void Program::setUniform_Unsafe(int l, int x, int y, int z) { unchecked(l, values(x, y, z)); }
-void Program::setUniform_Unsafe(const char* n, int x, int y, int z) { unchecked(getUniformLocation(n), values(x, y, z)); }
-void Program::setUniform(int l, int x, int y, int z, int w) { checked(*this, __LINE__, l, values(x, y, z, w)); }
-void Program::setUniform(const char* n, int x, int y, int z, int w) { checkedByName(*this, __LINE__, n, values(x, y, z, w)); }
-void Program::setUniform_Unsafe(int l, int x, int y, int z, int w) { unchecked(l, values(x, y, z, w)); }
-void Program::setUniform_Unsafe(const char* n, int x, int y, int z, int w) { unchecked(getUniformLocation(n), values(x, y, z, w)); }
+void Program::setUniform(int l, int x) { checked(*this, __LINE__, __func__, l, values(x)); }
+void Program::setUniform(const char* n, int x) { checkedByName(*this, __LINE__, __func__, n, values(x)); }
+void Program::setUniform_Unsafe(int l, int x) { unchecked(__func__, l, values(x)); }
+void Program::setUniform_Unsafe(const char* n, int x) { unchecked(__func__, getUniformLocation(n), values(x)); }
+void Program::setUniform(int l, int x, int y) { checked(*this, __LINE__, __func__, l, values(x, y)); }
+void Program::setUniform(const char* n, int x, int y) { checkedByName(*this, __LINE__, __func__, n, values(x, y)); }
+void Program::setUniform_Unsafe(int l, int x, int y) { unchecked(__func__, l, values(x, y)); }
+void Program::setUniform_Unsafe(const char* n, int x, int y) { unchecked(__func__, getUniformLocation(n), values(x, y)); }
+void Program::setUniform(int l, int x, int y, int z) { checked(*this, __LINE__, __func__, l, values(x, y, z)); }
+void Program::setUniform(const char* n, int x, int y, int z) { checkedByName(*this, __LINE__, __func__, n, values(x, y, z)); }
+void Program::setUniform_Unsafe(int l, int x, int y, int z) { unchecked(__func__, l, values(x, y, z)); }
+void Program::setUniform_Unsafe(const char* n, int x, int y, int z) { unchecked(__func__, getUniformLocation(n), values(x, y, z)); }
+void Program::setUniform(int l, int x, int y, int z, int w) { checked(*this, __LINE__, __func__, l, values(x, y, z, w)); }
+void Program::setUniform(const char* n, int x, int y, int z, int w) { checkedByName(*this, __LINE__, __func__, n, values(x, y, z, w)); }
+void Program::setUniform_Unsafe(int l, int x, int y, int z, int w) { unchecked(__func__, l, values(x, y, z, w)); }
+void Program::setUniform_Unsafe(const char* n, int x, int y, int z, int w) { unchecked(__func__, getUniformLocation(n), values(x, y, z, w)); }
 
-void Program::setUniform(int l, float x) { checked(*this, __LINE__, l, values(x)); }
-void Program::setUniform(const char* n, float x) { checkedByName(*this, __LINE__, n, values(x)); }
-void Program::setUniform_Unsafe(int l, float x) { unchecked(l, values(x)); }
-void Program::setUniform_Unsafe(const char* n, float x) { unchecked(getUniformLocation(n), values(x)); }
-void Program::setUniform(int l, float x, float y) { checked(*this, __LINE__, l, values(x, y)); }
-void Program::setUniform(const char* n, float x, float y) { checkedByName(*this, __LINE__, n, values(x, y)); }
-void Program::setUniform_Unsafe(int l, float x, float y) { unchecked(l, values(x, y)); }
-void Program::setUniform_Unsafe(const char* n, float x, float y) { unchecked(getUniformLocation(n), values(x, y)); }
-void Program::setUniform(int l, float x, float y, float z) { checked(*this, __LINE__, l, values(x, y, z)); }
-void Program::setUniform(const char* n, float x, float y, float z) { checkedByName(*this, __LINE__, n, values(x, y, z)); }
-void Program::setUniform_Unsafe(int l, float x, float y, float z) { unchecked(l, values(x, y, z)); }
-void Program::setUniform_Unsafe(const char* n, float x, float y, float z) { unchecked(getUniformLocation(n), values(x, y, z)); }
-void Program::setUniform(int l, float x, float y, float z, float w) { checked(*this, __LINE__, l, values(x, y, z, w)); }
-void Program::setUniform(const char* n, float x, float y, float z, float w) { checkedByName(*this, __LINE__, n, values(x, y, z, w)); }
-void Program::setUniform_Unsafe(int l, float x, float y, float z, float w) { unchecked(l, values(x, y, z, w)); }
-void Program::setUniform_Unsafe(const char* n, float x, float y, float z, float w) { unchecked(getUniformLocation(n), values(x, y, z, w)); }
+void Program::setUniform(int l, float x) { checked(*this, __LINE__, __func__, l, values(x)); }
+void Program::setUniform(const char* n, float x) { checkedByName(*this, __LINE__, __func__, n, values(x)); }
+void Program::setUniform_Unsafe(int l, float x) { unchecked(__func__, l, values(x)); }
+void Program::setUniform_Unsafe(const char* n, float x) { unchecked(__func__, getUniformLocation(n), values(x)); }
+void Program::setUniform(int l, float x, float y) { checked(*this, __LINE__, __func__, l, values(x, y)); }
+void Program::setUniform(const char* n, float x, float y) { checkedByName(*this, __LINE__, __func__, n, values(x, y)); }
+void Program::setUniform_Unsafe(int l, float x, float y) { unchecked(__func__, l, values(x, y)); }
+void Program::setUniform_Unsafe(const char* n, float x, float y) { unchecked(__func__, getUniformLocation(n), values(x, y)); }
+void Program::setUniform(int l, float x, float y, float z) { checked(*this, __LINE__, __func__, l, values(x, y, z)); }
+void Program::setUniform(const char* n, float x, float y, float z) { checkedByName(*this, __LINE__, __func__, n, values(x, y, z)); }
+void Program::setUniform_Unsafe(int l, float x, float y, float z) { unchecked(__func__, l, values(x, y, z)); }
+void Program::setUniform_Unsafe(const char* n, float x, float y, float z) { unchecked(__func__, getUniformLocation(n), values(x, y, z)); }
+void Program::setUniform(int l, float x, float y, float z, float w) { checked(*this, __LINE__, __func__, l, values(x, y, z, w)); }
+void Program::setUniform(const char* n, float x, float y, float z, float w) { checkedByName(*this, __LINE__, __func__, n, values(x, y, z, w)); }
+void Program::setUniform_Unsafe(int l, float x, float y, float z, float w) { unchecked(__func__, l, values(x, y, z, w)); }
+void Program::setUniform_Unsafe(const char* n, float x, float y, float z, float w) { unchecked(__func__, getUniformLocation(n), values(x, y, z, w)); }
 
-void Program::setUniformSampler1D(int l, int unit) { checked(*this, __LINE__, l, values(unit)); }
-void Program::setUniformSampler1D(const char* n, int unit) { checkedByName(*this, __LINE__, n, values(unit)); }
-void Program::setUniformSampler1D_Unsafe(int l, int unit) { unchecked(l, values(unit)); }
-void Program::setUniformSampler1D_Unsafe(const char* n, int unit) { unchecked(getUniformLocation(n), values(unit)); }
-void Program::setUniformSampler2D(int l, int unit) { checked(*this, __LINE__, l, values(unit)); }
-void Program::setUniformSampler2D(const char* n, int unit) { checkedByName(*this, __LINE__, n, values(unit)); }
-void Program::setUniformSampler2D_Unsafe(int l, int unit) { unchecked(l, values(unit)); }
-void Program::setUniformSampler2D_Unsafe(const char* n, int unit) { unchecked(getUniformLocation(n), values(unit)); }
-void Program::setUniformSampler3D(int l, int unit) { checked(*this, __LINE__, l, values(unit)); }
-void Program::setUniformSampler3D(const char* n, int unit) { checkedByName(*this, __LINE__, n, values(unit)); }
-void Program::setUniformSampler3D_Unsafe(int l, int unit) { unchecked(l, values(unit)); }
-void Program::setUniformSampler3D_Unsafe(const char* n, int unit) { unchecked(getUniformLocation(n), values(unit)); }
-void Program::setUniformSampler2DRECT(int l, int unit) { checked(*this, __LINE__, l, values(unit)); }
-void Program::setUniformSampler2DRECT(const char* n, int unit) { checkedByName(*this, __LINE__, n, values(unit)); }
-void Program::setUniformSampler2DRECT_Unsafe(int l, int unit) { unchecked(l, values(unit)); }
-void Program::setUniformSampler2DRECT_Unsafe(const char* n, int unit) { unchecked(getUniformLocation(n), values(unit)); }
+void Program::setUniformSampler1D(int l, int unit) { checked(*this, __LINE__, __func__, l, values(unit)); }
+void Program::setUniformSampler1D(const char* n, int unit) { checkedByName(*this, __LINE__, __func__, n, values(unit)); }
+void Program::setUniformSampler1D_Unsafe(int l, int unit) { unchecked(__func__, l, values(unit)); }
+void Program::setUniformSampler1D_Unsafe(const char* n, int unit) { unchecked(__func__, getUniformLocation(n), values(unit)); }
+void Program::setUniformSampler2D(int l, int unit) { checked(*this, __LINE__, __func__, l, values(unit)); }
+void Program::setUniformSampler2D(const char* n, int unit) { checkedByName(*this, __LINE__, __func__, n, values(unit)); }
+void Program::setUniformSampler2D_Unsafe(int l, int unit) { unchecked(__func__, l, values(unit)); }
+void Program::setUniformSampler2D_Unsafe(const char* n, int unit) { unchecked(__func__, getUniformLocation(n), values(unit)); }
+void Program::setUniformSampler3D(int l, int unit) { checked(*this, __LINE__, __func__, l, values(unit)); }
+void Program::setUniformSampler3D(const char* n, int unit) { checkedByName(*this, __LINE__, __func__, n, values(unit)); }
+void Program::setUniformSampler3D_Unsafe(int l, int unit) { unchecked(__func__, l, values(unit)); }
+void Program::setUniformSampler3D_Unsafe(const char* n, int unit) { unchecked(__func__, getUniformLocation(n), values(unit)); }
+void Program::setUniformSampler2DRECT(int l, int unit) { checked(*this, __LINE__, __func__, l, values(unit)); }
+void Program::setUniformSampler2DRECT(const char* n, int unit) { checkedByName(*this, __LINE__, __func__, n, values(unit)); }
+void Program::setUniformSampler2DRECT_Unsafe(int l, int unit) { unchecked(__func__, l, values(unit)); }
+void Program::setUniformSampler2DRECT_Unsafe(const char* n, int unit) { unchecked(__func__, getUniformLocation(n), values(unit)); }
 
-void Program::setUniformMatrices2(int l, int c, const float* v, unsigned char t) { checked(*this, __LINE__, l, matrices(&_cgmUniformMatrix2fv, c, v, t)); }
+void Program::setUniformMatrices2(int l, int c, const float* v, unsigned char t) { checked(*this, __LINE__, __func__, l, matrices(&_cgmUniformMatrix2fv, c, v, t)); }
 void Program::setUniformMatrices2(const char* n, int c, const float* v, unsigned char t) { setUniformMatrices2(getUniformLocation(n), c, v, t); }
-void Program::setUniformMatrices2_Unsafe(int l, int c, const float* v, unsigned char t) { unchecked(l, matrices(&_cgmUniformMatrix2fv, c, v, t)); }
+void Program::setUniformMatrices2_Unsafe(int l, int c, const float* v, unsigned char t) { unchecked(__func__, l, matrices(&_cgmUniformMatrix2fv, c, v, t)); }
 void Program::setUniformMatrices2_Unsafe(const char* n, int c, const float* v, unsigned char t) { setUniformMatrices2_Unsafe(getUniformLocation(n), c, v, t); }
-void Program::setUniformMatrices3(int l, int c, const float* v, unsigned char t) { checked(*this, __LINE__, l, matrices(&_cgmUniformMatrix3fv, c, v, t)); }
+void Program::setUniformMatrices3(int l, int c, const float* v, unsigned char t) { checked(*this, __LINE__, __func__, l, matrices(&_cgmUniformMatrix3fv, c, v, t)); }
 void Program::setUniformMatrices3(const char* n, int c, const float* v, unsigned char t) { setUniformMatrices3(getUniformLocation(n), c, v, t); }
-void Program::setUniformMatrices3_Unsafe(int l, int c, const float* v, unsigned char t) { unchecked(l, matrices(&_cgmUniformMatrix3fv, c, v, t)); }
+void Program::setUniformMatrices3_Unsafe(int l, int c, const float* v, unsigned char t) { unchecked(__func__, l, matrices(&_cgmUniformMatrix3fv, c, v, t)); }
 void Program::setUniformMatrices3_Unsafe(const char* n, int c, const float* v, unsigned char t) { setUniformMatrices3_Unsafe(getUniformLocation(n), c, v, t); }
-void Program::setUniformMatrices4(int l, int c, const float* v, unsigned char t) { checked(*this, __LINE__, l, matrices(&_cgmUniformMatrix4fv, c, v, t)); }
+void Program::setUniformMatrices4(int l, int c, const float* v, unsigned char t) { checked(*this, __LINE__, __func__, l, matrices(&_cgmUniformMatrix4fv, c, v, t)); }
 void Program::setUniformMatrices4(const char* n, int c, const float* v, unsigned char t) { setUniformMatrices4(getUniformLocation(n), c, v, t); }
-void Program::setUniformMatrices4_Unsafe(int l, int c, const float* v, unsigned char t) { unchecked(l, matrices(&_cgmUniformMatrix4fv, c, v, t)); }
+void Program::setUniformMatrices4_Unsafe(int l, int c, const float* v, unsigned char t) { unchecked(__func__, l, matrices(&_cgmUniformMatrix4fv, c, v, t)); }
 void Program::setUniformMatrices4_Unsafe(const char* n, int c, const float* v, unsigned char t) { setUniformMatrices4_Unsafe(getUniformLocation(n), c, v, t); }
 
 void Program::setUniformMatrix2(int l, const float* v, unsigned char t) { setUniformMatrices2(l, 1, v, t); }
@@ -648,39 +679,39 @@ void Program::setUniformMatrix4(const char* n, const float* v, unsigned char t) 
 void Program::setUniformMatrix4_Unsafe(int l, const float* v, unsigned char t) { setUniformMatrices4_Unsafe(l, 1, v, t); }
 void Program::setUniformMatrix4_Unsafe(const char* n, const float* v, unsigned char t) { setUniformMatrices4_Unsafe(getUniformLocation(n), 1, v, t); }
 
-void Program::setUniform(int l, int c, int* v) { setArray(*this, kCheckedArray, __LINE__, l, 1, c, v); }
-void Program::setUniform(const char* n, int c, int* v) { setArray(*this, kCheckedArrayByName, 0, getUniformLocation(n), 1, c, v); }
-void Program::setUniform_Unsafe(int l, int c, int* v) { setArray(*this, kUncheckedArray, 0, l, 1, c, v); }
-void Program::setUniform_Unsafe(const char* n, int c, int* v) { setArray(*this, kUncheckedArrayByName, 0, getUniformLocation(n), 1, c, v); }
-void Program::setUniform2(int l, int c, int* v) { setArray(*this, kCheckedArray, __LINE__, l, 2, c, v); }
-void Program::setUniform2(const char* n, int c, int* v) { setArray(*this, kCheckedArrayByName, 0, getUniformLocation(n), 2, c, v); }
-void Program::setUniform2_Unsafe(int l, int c, int* v) { setArray(*this, kUncheckedArray, 0, l, 2, c, v); }
-void Program::setUniform2_Unsafe(const char* n, int c, int* v) { setArray(*this, kUncheckedArrayByName, 0, getUniformLocation(n), 2, c, v); }
-void Program::setUniform3(int l, int c, int* v) { setArray(*this, kCheckedArray, __LINE__, l, 3, c, v); }
-void Program::setUniform3(const char* n, int c, int* v) { setArray(*this, kCheckedArrayByName, 0, getUniformLocation(n), 3, c, v); }
-void Program::setUniform3_Unsafe(int l, int c, int* v) { setArray(*this, kUncheckedArray, 0, l, 3, c, v); }
-void Program::setUniform3_Unsafe(const char* n, int c, int* v) { setArray(*this, kUncheckedArrayByName, 0, getUniformLocation(n), 3, c, v); }
-void Program::setUniform4(int l, int c, int* v) { setArray(*this, kCheckedArray, __LINE__, l, 4, c, v); }
-void Program::setUniform4(const char* n, int c, int* v) { setArray(*this, kCheckedArrayByName, 0, getUniformLocation(n), 4, c, v); }
-void Program::setUniform4_Unsafe(int l, int c, int* v) { setArray(*this, kUncheckedArray, 0, l, 4, c, v); }
-void Program::setUniform4_Unsafe(const char* n, int c, int* v) { setArray(*this, kUncheckedArrayByName, 0, getUniformLocation(n), 4, c, v); }
+void Program::setUniform(int l, int c, int* v) { setArray(*this, kCheckedArray, __func__, __LINE__, l, 1, c, v); }
+void Program::setUniform(const char* n, int c, int* v) { setArray(*this, kCheckedArrayByName, __func__, 0, getUniformLocation(n), 1, c, v); }
+void Program::setUniform_Unsafe(int l, int c, int* v) { setArray(*this, kUncheckedArray, __func__, 0, l, 1, c, v); }
+void Program::setUniform_Unsafe(const char* n, int c, int* v) { setArray(*this, kUncheckedArrayByName, __func__, 0, getUniformLocation(n), 1, c, v); }
+void Program::setUniform2(int l, int c, int* v) { setArray(*this, kCheckedArray, __func__, __LINE__, l, 2, c, v); }
+void Program::setUniform2(const char* n, int c, int* v) { setArray(*this, kCheckedArrayByName, __func__, 0, getUniformLocation(n), 2, c, v); }
+void Program::setUniform2_Unsafe(int l, int c, int* v) { setArray(*this, kUncheckedArray, __func__, 0, l, 2, c, v); }
+void Program::setUniform2_Unsafe(const char* n, int c, int* v) { setArray(*this, kUncheckedArrayByName, __func__, 0, getUniformLocation(n), 2, c, v); }
+void Program::setUniform3(int l, int c, int* v) { setArray(*this, kCheckedArray, __func__, __LINE__, l, 3, c, v); }
+void Program::setUniform3(const char* n, int c, int* v) { setArray(*this, kCheckedArrayByName, __func__, 0, getUniformLocation(n), 3, c, v); }
+void Program::setUniform3_Unsafe(int l, int c, int* v) { setArray(*this, kUncheckedArray, __func__, 0, l, 3, c, v); }
+void Program::setUniform3_Unsafe(const char* n, int c, int* v) { setArray(*this, kUncheckedArrayByName, __func__, 0, getUniformLocation(n), 3, c, v); }
+void Program::setUniform4(int l, int c, int* v) { setArray(*this, kCheckedArray, __func__, __LINE__, l, 4, c, v); }
+void Program::setUniform4(const char* n, int c, int* v) { setArray(*this, kCheckedArrayByName, __func__, 0, getUniformLocation(n), 4, c, v); }
+void Program::setUniform4_Unsafe(int l, int c, int* v) { setArray(*this, kUncheckedArray, __func__, 0, l, 4, c, v); }
+void Program::setUniform4_Unsafe(const char* n, int c, int* v) { setArray(*this, kUncheckedArrayByName, __func__, 0, getUniformLocation(n), 4, c, v); }
 
-void Program::setUniform(int l, int c, float* v) { setArray(*this, kCheckedArray, __LINE__, l, 1, c, v); }
-void Program::setUniform(const char* n, int c, float* v) { setArray(*this, kCheckedArrayByName, 0, getUniformLocation(n), 1, c, v); }
-void Program::setUniform_Unsafe(int l, int c, float* v) { setArray(*this, kUncheckedArray, 0, l, 1, c, v); }
-void Program::setUniform_Unsafe(const char* n, int c, float* v) { setArray(*this, kUncheckedArrayByName, 0, getUniformLocation(n), 1, c, v); }
-void Program::setUniform2(int l, int c, float* v) { setArray(*this, kCheckedArray, __LINE__, l, 2, c, v); }
-void Program::setUniform2(const char* n, int c, float* v) { setArray(*this, kCheckedArrayByName, 0, getUniformLocation(n), 2, c, v); }
-void Program::setUniform2_Unsafe(int l, int c, float* v) { setArray(*this, kUncheckedArray, 0, l, 2, c, v); }
-void Program::setUniform2_Unsafe(const char* n, int c, float* v) { setArray(*this, kUncheckedArrayByName, 0, getUniformLocation(n), 2, c, v); }
-void Program::setUniform3(int l, int c, float* v) { setArray(*this, kCheckedArray, __LINE__, l, 3, c, v); }
-void Program::setUniform3(const char* n, int c, float* v) { setArray(*this, kCheckedArrayByName, 0, getUniformLocation(n), 3, c, v); }
-void Program::setUniform3_Unsafe(int l, int c, float* v) { setArray(*this, kUncheckedArray, 0, l, 3, c, v); }
-void Program::setUniform3_Unsafe(const char* n, int c, float* v) { setArray(*this, kUncheckedArrayByName, 0, getUniformLocation(n), 3, c, v); }
-void Program::setUniform4(int l, int c, float* v) { setArray(*this, kCheckedArray, __LINE__, l, 4, c, v); }
-void Program::setUniform4(const char* n, int c, float* v) { setArray(*this, kCheckedArrayByName, 0, getUniformLocation(n), 4, c, v); }
-void Program::setUniform4_Unsafe(int l, int c, float* v) { setArray(*this, kUncheckedArray, 0, l, 4, c, v); }
-void Program::setUniform4_Unsafe(const char* n, int c, float* v) { setArray(*this, kUncheckedArrayByName, 0, getUniformLocation(n), 4, c, v); }
+void Program::setUniform(int l, int c, float* v) { setArray(*this, kCheckedArray, __func__, __LINE__, l, 1, c, v); }
+void Program::setUniform(const char* n, int c, float* v) { setArray(*this, kCheckedArrayByName, __func__, 0, getUniformLocation(n), 1, c, v); }
+void Program::setUniform_Unsafe(int l, int c, float* v) { setArray(*this, kUncheckedArray, __func__, 0, l, 1, c, v); }
+void Program::setUniform_Unsafe(const char* n, int c, float* v) { setArray(*this, kUncheckedArrayByName, __func__, 0, getUniformLocation(n), 1, c, v); }
+void Program::setUniform2(int l, int c, float* v) { setArray(*this, kCheckedArray, __func__, __LINE__, l, 2, c, v); }
+void Program::setUniform2(const char* n, int c, float* v) { setArray(*this, kCheckedArrayByName, __func__, 0, getUniformLocation(n), 2, c, v); }
+void Program::setUniform2_Unsafe(int l, int c, float* v) { setArray(*this, kUncheckedArray, __func__, 0, l, 2, c, v); }
+void Program::setUniform2_Unsafe(const char* n, int c, float* v) { setArray(*this, kUncheckedArrayByName, __func__, 0, getUniformLocation(n), 2, c, v); }
+void Program::setUniform3(int l, int c, float* v) { setArray(*this, kCheckedArray, __func__, __LINE__, l, 3, c, v); }
+void Program::setUniform3(const char* n, int c, float* v) { setArray(*this, kCheckedArrayByName, __func__, 0, getUniformLocation(n), 3, c, v); }
+void Program::setUniform3_Unsafe(int l, int c, float* v) { setArray(*this, kUncheckedArray, __func__, 0, l, 3, c, v); }
+void Program::setUniform3_Unsafe(const char* n, int c, float* v) { setArray(*this, kUncheckedArrayByName, __func__, 0, getUniformLocation(n), 3, c, v); }
+void Program::setUniform4(int l, int c, float* v) { setArray(*this, kCheckedArray, __func__, __LINE__, l, 4, c, v); }
+void Program::setUniform4(const char* n, int c, float* v) { setArray(*this, kCheckedArrayByName, __func__, 0, getUniformLocation(n), 4, c, v); }
+void Program::setUniform4_Unsafe(int l, int c, float* v) { setArray(*this, kUncheckedArray, __func__, 0, l, 4, c, v); }
+void Program::setUniform4_Unsafe(const char* n, int c, float* v) { setArray(*this, kUncheckedArrayByName, __func__, 0, getUniformLocation(n), 4, c, v); }
 // clang-format on
 
 } // namespace OGL

@@ -5,13 +5,15 @@
 #include "oru_ogl/extensionator/ExtensionManager.h"
 #include "oru_ogl/ogl/GLConstants.h"
 #include "oru_ogl/ogl/TwoWayTable.h"
+#include "oru_ogl/ogl/WrapperCheck.h"
 
 #include <vector>
 
 // GLSL shader objects. The wrappers call the OpenGL 2.0 entry points through
 // the _cgm pointers directly, not through the interception chain: that chain
-// is the client's. GL errors are left to GL. Nothing is cached; every state is
-// read back from GL when asked.
+// is the client's. GL errors are left to GL unless checked wrappers are on
+// (WrapperCheck.h). Nothing is cached; every state is read back from GL when
+// asked.
 
 namespace Oru
 {
@@ -50,6 +52,7 @@ Shader::Shader(ShaderType type)
     ORU_VERIFY_AT(kSupportLine, Oru::OGL::ExtensionManager::Instance()->isSupported(OPEN_GL_2_0));
     const GLenum glType = kShaderTypes.toGL(type);
     _hObject = _cgmCreateShader(glType);
+    ORU_CHECK_GL(Shader);
 }
 
 // GL keeps a deleted shader while a program still has it attached; the
@@ -63,12 +66,14 @@ Shader::~Shader() noexcept(false)
 void Shader::load(unsigned int count, const char** strings, int* lengths)
 {
     _cgmShaderSource(_hObject, static_cast<GLsizei>(count), strings, lengths);
+    ORU_CHECK_GL(Shader);
 }
 
 bool Shader::isCompiled() const
 {
     GLint status = 0;
     _cgmGetShaderiv(_hObject, GL_COMPILE_STATUS, &status);
+    ORU_CHECK_GL(Shader);
     return status != 0;
 }
 
@@ -77,6 +82,7 @@ bool Shader::isLoaded() const
 {
     GLint length = 0;
     _cgmGetShaderiv(_hObject, GL_SHADER_SOURCE_LENGTH, &length);
+    ORU_CHECK_GL(Shader);
     return length > 1;
 }
 
@@ -84,12 +90,14 @@ int Shader::getInfoLogLength() const
 {
     GLint length = 0;
     _cgmGetShaderiv(_hObject, GL_INFO_LOG_LENGTH, &length);
+    ORU_CHECK_GL(Shader);
     return length;
 }
 
 void Shader::getInfoLog(int maxLength, char* buffer)
 {
     _cgmGetShaderInfoLog(_hObject, maxLength, nullptr, buffer);
+    ORU_CHECK_GL(Shader);
 }
 
 VertexShader::VertexShader()
@@ -111,6 +119,7 @@ FragmentShader::~FragmentShader() noexcept(false) = default;
 void Shader::compile(bool check)
 {
     _cgmCompileShader(_hObject);
+    ORU_CHECK_GL(Shader);
     if (!check || isCompiled())
         return;
     const int length = getInfoLogLength();

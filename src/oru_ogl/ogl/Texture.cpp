@@ -6,6 +6,7 @@
 #include "oru_ogl/extensionator/ExtensionManager.h"
 #include "oru_ogl/ogl/GLConstants.h"
 #include "oru_ogl/ogl/TextureState.h"
+#include "oru_ogl/ogl/WrapperCheck.h"
 
 // The texture base: the name, format and size every texture has, and the
 // layer's vocabulary for textures with its translations to GL.
@@ -20,12 +21,27 @@
 // drift apart. A value outside a table is a programming error in the caller
 // (a cast from an integer, usually) and raises the table's own text; GL never
 // sees it. Texture code calls GL 1.1 directly and the multitexture entry
-// point through its pointer; no GL error is checked here.
+// point through its pointer; GL errors are checked only with checked wrappers
+// on (WrapperCheck.h).
 
 namespace Oru
 {
 namespace OGL
 {
+
+namespace
+{
+
+// The lines that this file's checks report; callers match on them.
+const int kNoNameLine = 47;
+const int kNotBoundLine = 199;
+const int kNotEnabledLine = 218;
+const int kUnsizedFormatLine = 346;
+const int kUnsizedPixelFormatLine = 381;
+const int kUnknownChannelsLine = 491;
+const int kUnknownFormatLine = 495;
+
+} // namespace
 
 // The target and binding query are translated first, so a bad enumeration is
 // refused before a GL name exists. Nothing is bound and no storage is made:
@@ -44,7 +60,8 @@ Texture::Texture(Target target, TargetBinding binding, InternalFormat format, st
 {
     glGenTextures(1, &n_ObjectID);
     if (n_ObjectID == 0)
-        ORU_THROW("Texture:: contructor failed to allocate new GPU texture resource");
+        ORU_THROW_AT(kNoNameLine, "Texture:: contructor failed to allocate new GPU texture resource");
+    ORU_CHECK_GL(Texture);
 }
 
 // Deleting a bound texture is legal: GL binds the default texture in its place.
@@ -99,12 +116,14 @@ void Texture::setFilter(Filter minFilter, Filter magFilter)
 {
     glTexParameteri(target(), GL_TEXTURE_MIN_FILTER, static_cast<GLint>(Filter2GL(minFilter)));
     glTexParameteri(target(), GL_TEXTURE_MAG_FILTER, static_cast<GLint>(Filter2GL(magFilter)));
+    ORU_CHECK_GL(Texture);
 }
 
 // Used by the CLAMP_TO_BORDER wrap mode and by GL_CLAMP at the border texels.
 void Texture::setBorderColor(const float* rgba)
 {
     glTexParameterfv(target(), GL_TEXTURE_BORDER_COLOR, rgba);
+    ORU_CHECK_GL(Texture);
 }
 
 // Regenerates levels 1 and up whenever level 0 changes; see
@@ -112,6 +131,7 @@ void Texture::setBorderColor(const float* rgba)
 void Texture::enableAutoMIPGeneration(bool on)
 {
     glTexParameteri(target(), GL_GENERATE_MIPMAP, on ? 1 : 0);
+    ORU_CHECK_GL(Texture);
 }
 
 // ---------------------------------------------------------------------------
@@ -171,6 +191,7 @@ int Texture::CurrentUnit_DEPRECATED_1_0()
 void Texture::setEnv_DEPRECATED_1_0(unsigned int mode)
 {
     glTexEnvi(GL_TEXTURE_ENV, GL_TEXTURE_ENV_MODE, static_cast<GLint>(mode));
+    ORU_CHECK_GL(Texture);
 }
 
 // Binding does not enable: a shader samples the texture now, the fixed-
@@ -180,6 +201,7 @@ void Texture::bind_DEPRECATED_1_0(int unit)
     if (unit != CURRENT_UNIT)
         TextureState::setActiveTexture(unit);
     glBindTexture(target(), n_ObjectID);
+    ORU_CHECK_GL(Texture);
 }
 
 // Enables the target on the unit and binds this texture to it.
@@ -189,6 +211,7 @@ void Texture::enable_DEPRECATED_1_0(int unit)
         TextureState::setActiveTexture(unit);
     glEnable(target());
     glBindTexture(target(), n_ObjectID);
+    ORU_CHECK_GL(Texture);
 }
 
 // Unbinding another texture's binding would silently detach it; refused.
@@ -196,8 +219,9 @@ void Texture::unbind_DEPRECATED_1_0(int unit)
 {
     ActiveUnitGuard guard(unit);
     if (!isBound())
-        ORU_THROW("Texture not bound");
+        ORU_THROW_AT(kNotBoundLine, "Texture not bound");
     glBindTexture(target(), 0);
+    ORU_CHECK_GL(Texture);
 }
 
 // Enabled means: this texture is bound and its target is enabled on the unit.
@@ -208,6 +232,7 @@ bool Texture::isEnabled_DEPRECATED_1_0(int unit) const
         return false;
     GLint enabled = 0;
     glGetIntegerv(target(), &enabled);
+    ORU_CHECK_GL(Texture);
     return enabled != 0;
 }
 
@@ -215,11 +240,12 @@ void Texture::disable_DEPRECATED_1_0(int unit)
 {
     ActiveUnitGuard guard(unit);
     if (!isEnabled_DEPRECATED_1_0(CURRENT_UNIT))
-        ORU_THROW("Texture target is not enabled..can't disable texture");
+        ORU_THROW_AT(kNotEnabledLine, "Texture target is not enabled..can't disable texture");
     // Only this texture may be disabled: when another one is bound, the
     // target stays enabled for it and the caller is told instead.
     glBindTexture(target(), 0);
     glDisable(target());
+    ORU_CHECK_GL(Texture);
 }
 
 // ---------------------------------------------------------------------------
@@ -343,7 +369,7 @@ std::size_t Texture::Channels(InternalFormat format)
     case RGBA16F:
         return 4;
     default:
-        ORU_THROW("InternalFormat enums are not all properly sized.");
+        ORU_THROW_AT(kUnsizedFormatLine, "InternalFormat enums are not all properly sized.");
     }
 }
 
@@ -378,7 +404,7 @@ std::size_t Texture::Channels(Format format)
     // A value past the enumeration, cast from an integer, is refused with
     // the same text as an internal format that cannot be sized.
     default:
-        ORU_THROW("InternalFormat enums are not all properly sized.");
+        ORU_THROW_AT(kUnsizedPixelFormatLine, "InternalFormat enums are not all properly sized.");
     }
 }
 
@@ -488,11 +514,12 @@ std::size_t Texture::SizeInBytes(InternalFormat format, std::size_t width, std::
     case RGB5_A1:
     case RGB10_A2:
     case RGBA12:
-        ORU_THROW("Texture::SizeInBytes Unknown color channels for format " << TokenName(format));
+        ORU_THROW_AT(kUnknownChannelsLine,
+                     "Texture::SizeInBytes Unknown color channels for format " << TokenName(format));
     // RGB4, which is in no channel group either, and anything past the
     // enumeration.
     default:
-        ORU_THROW("InternalFormat enums are not all properly sized.");
+        ORU_THROW_AT(kUnknownFormatLine, "InternalFormat enums are not all properly sized.");
     }
     return bytesPerChannel * Channels(format) * width * height * depth;
 }

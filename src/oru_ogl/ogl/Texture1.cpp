@@ -4,6 +4,7 @@
 #include "oru_ogl/ogl/GLConstants.h"
 #include "oru_ogl/ogl/TextureState.h"
 #include "oru_ogl/ogl/TextureTransfer.h"
+#include "oru_ogl/ogl/WrapperCheck.h"
 
 #include "oru_core/Math.h"
 
@@ -21,7 +22,6 @@ namespace
 
 // The line that the size rule reports; callers match on it.
 const int kPowerOfTwoLine = 36;
-using Lines = TextureTransfer::Lines;
 
 } // namespace
 
@@ -35,7 +35,7 @@ Texture1::Texture1(Target target, TargetBinding binding, InternalFormat format, 
     const bool anySize = TextureState::supportsNonPowerOfTwo();
     if (!anySize && !isPowerOfTwo(static_cast<unsigned int>(width)))
         ORU_THROW_AT(kPowerOfTwoLine, "Texture2::ctor hardware only supports power of two textures");
-    TextureTransfer(*this, 1, __FILE__).allocate(mipmaps);
+    TextureTransfer(*this, 1, __FILE__, __LINE__).allocate(mipmaps);
 }
 
 Texture1::~Texture1() = default;
@@ -43,42 +43,43 @@ Texture1::~Texture1() = default;
 void Texture1::setWrap(WrapMode s)
 {
     glTexParameteri(target(), GL_TEXTURE_WRAP_S, static_cast<GLint>(WrapMode2GL(s)));
+    ORU_CHECK_GL(Texture1);
 }
 
 std::size_t Texture1::pixelDataSize(int /*level*/, Format format, Type type) const
 {
-    return TextureTransfer(*this, 1, __FILE__).pixelDataSize(__LINE__, format, type);
+    return TextureTransfer(*this, 1, __FILE__, __LINE__).pixelDataSize(format, type);
 }
 
 void Texture1::getPixelData(void* dst, int level, Format format, Type type, unsigned int rowAlignment) const
 {
-    TextureTransfer(*this, 1, __FILE__).getPixelData(Lines::at(__LINE__), dst, level, format, type, rowAlignment);
+    TextureTransfer(*this, 1, __FILE__, __LINE__).getPixelData(dst, level, format, type, rowAlignment);
 }
 
 void Texture1::getPixelData(Buffer* pbo, std::size_t offset, int level, Format format, Type type,
                             unsigned int rowAlignment) const
 {
-    TextureTransfer(*this, 1, __FILE__)
-        .getPixelData(Lines::at(__LINE__), pbo, offset, level, format, type, rowAlignment);
+    TextureTransfer(*this, 1, __FILE__, __LINE__)
+        .getPixelData(pbo, offset, level, format, type, rowAlignment);
 }
 
 void Texture1::subImage(int level, int x, std::size_t width, Format format, Type type, const void* data,
                         const PixelUnpackParameters& unpack)
 {
-    TextureTransfer(*this, 1, __FILE__)
-        .subImage(Lines::at(__LINE__), level, { x, 0, 0, width, 1, 1 }, format, type, data, unpack);
+    TextureTransfer(*this, 1, __FILE__, __LINE__)
+        .subImage(level, { x, 0, 0, width, 1, 1 }, format, type, data, unpack);
 }
 
 void Texture1::subImage(int level, int x, std::size_t width, Format format, Type type, Buffer* pbo,
                         std::size_t offset, const PixelUnpackParameters& unpack)
 {
-    TextureTransfer(*this, 1, __FILE__)
-        .subImage(Lines::at(__LINE__), level, { x, 0, 0, width, 1, 1 }, format, type, pbo, offset, unpack);
+    TextureTransfer(*this, 1, __FILE__, __LINE__)
+        .subImage(level, { x, 0, 0, width, 1, 1 }, format, type, pbo, offset, unpack);
 }
 
 void Texture1::copyTexSubImage(int level, int x, int readX, int readY, std::size_t width)
 {
-    TextureTransfer(*this, 1, __FILE__).copyTexSubImage(Lines::at(__LINE__), level, { x, 0, 0, width, 1, 1 }, readX, readY);
+    TextureTransfer(*this, 1, __FILE__, __LINE__).copyTexSubImage(level, { x, 0, 0, width, 1, 1 }, readX, readY);
 }
 
 Texture1D::Texture1D(InternalFormat format, std::size_t width, bool mipmaps)

@@ -4,6 +4,7 @@
 #include "oru_ogl/ogl/GLConstants.h"
 #include "oru_ogl/ogl/TextureState.h"
 #include "oru_ogl/ogl/TextureTransfer.h"
+#include "oru_ogl/ogl/WrapperCheck.h"
 
 #include "oru_core/Math.h"
 
@@ -45,7 +46,7 @@ Texture2::Texture2(Target target, TargetBinding binding, InternalFormat format, 
         isPowerOfTwo(static_cast<unsigned int>(width)) && isPowerOfTwo(static_cast<unsigned int>(height));
     if (!anySize && !powersOfTwo)
         ORU_THROW_AT(kPowerOfTwoLine, "Texture2::ctor hardware only supports power of two textures");
-    TextureTransfer(*this, 2, __FILE__).allocate(mipmaps);
+    TextureTransfer(*this, 2, __FILE__, __LINE__).allocate(mipmaps);
 }
 
 bool Texture2D::isSupported()
@@ -85,42 +86,44 @@ void Texture2::setWrap(WrapMode s, WrapMode t)
         ORU_THROW_AT(kWrapLine, "Texture must be enabled (bound & active)");
     glTexParameteri(target(), GL_TEXTURE_WRAP_S, static_cast<GLint>(WrapMode2GL(s)));
     glTexParameteri(target(), GL_TEXTURE_WRAP_T, static_cast<GLint>(WrapMode2GL(t)));
+    ORU_CHECK_GL(Texture2);
 }
 
 std::size_t Texture2::pixelDataSize(int /*level*/, Format format, Type type) const
 {
-    return TextureTransfer(*this, 2, __FILE__).pixelDataSize(kUnknownTypeLine, format, type);
+    return TextureTransfer(*this, 2, __FILE__, kUnknownTypeLine).pixelDataSize(format, type);
 }
 
 void Texture2::getPixelData(void* dst, int level, Format format, Type type, unsigned int rowAlignment) const
 {
-    TextureTransfer(*this, 2, __FILE__).getPixelData(kReadLines, dst, level, format, type, rowAlignment);
+    TextureTransfer(*this, 2, __FILE__, __LINE__).getPixelData(dst, level, format, type, rowAlignment, &kReadLines);
 }
 
 void Texture2::getPixelData(Buffer* pbo, std::size_t offset, int level, Format format, Type type,
                             unsigned int rowAlignment) const
 {
-    TextureTransfer(*this, 2, __FILE__)
-        .getPixelData(kReadIntoBufferLines, pbo, offset, level, format, type, rowAlignment);
+    TextureTransfer(*this, 2, __FILE__, __LINE__)
+        .getPixelData(pbo, offset, level, format, type, rowAlignment, &kReadIntoBufferLines);
 }
 
 void Texture2::subImage(int level, int x, int y, std::size_t width, std::size_t height, Format format, Type type,
                         const void* data, const PixelUnpackParameters& unpack)
 {
-    TextureTransfer(*this, 2, __FILE__)
-        .subImage(kSubImageLines, level, { x, y, 0, width, height, 1 }, format, type, data, unpack);
+    TextureTransfer(*this, 2, __FILE__, __LINE__)
+        .subImage(level, { x, y, 0, width, height, 1 }, format, type, data, unpack, &kSubImageLines);
 }
 
 void Texture2::subImage(int level, int x, int y, std::size_t width, std::size_t height, Format format, Type type,
                         Buffer* pbo, std::size_t offset, const PixelUnpackParameters& unpack)
 {
-    TextureTransfer(*this, 2, __FILE__)
-        .subImage(kSubImageFromBufferLines, level, { x, y, 0, width, height, 1 }, format, type, pbo, offset, unpack);
+    TextureTransfer(*this, 2, __FILE__, __LINE__)
+        .subImage(level, { x, y, 0, width, height, 1 }, format, type, pbo, offset, unpack, &kSubImageFromBufferLines);
 }
 
 void Texture2::copyTexSubImage(int level, int x, int y, int readX, int readY, std::size_t width, std::size_t height)
 {
-    TextureTransfer(*this, 2, __FILE__).copyTexSubImage(kCopyLines, level, { x, y, 0, width, height, 1 }, readX, readY);
+    TextureTransfer(*this, 2, __FILE__, __LINE__)
+        .copyTexSubImage(level, { x, y, 0, width, height, 1 }, readX, readY, &kCopyLines);
 }
 
 } // namespace OGL

@@ -6,6 +6,7 @@
 #include "oru_ogl/ogl/GLConstants.h"
 #include "oru_ogl/ogl/TextureState.h"
 #include "oru_ogl/ogl/TextureTransfer.h"
+#include "oru_ogl/ogl/WrapperCheck.h"
 
 #include "oru_core/Math.h"
 
@@ -24,7 +25,6 @@ namespace
 // The lines that the size rule reports; callers match on them.
 const int kPowerOfTwoLine = 41;
 const int kPowerOfTwoFromDataLine = 128;
-using Lines = TextureTransfer::Lines;
 
 // Without non-power-of-two support all three sizes must be powers of two;
 // rectangle support says nothing about volumes and does not count here.
@@ -54,7 +54,7 @@ Texture3::Texture3(Target target, TargetBinding binding, InternalFormat format, 
     if (!sizeAllowed(width, height, depth))
         ORU_THROW_AT(kPowerOfTwoLine, "Texture3::ctor hardware only supports power of two textures");
     loadTexture3DEntryPoints();
-    TextureTransfer(*this, 3, __FILE__).allocate(mipmaps);
+    TextureTransfer(*this, 3, __FILE__, __LINE__).allocate(mipmaps);
 }
 
 // One level from data, read with the caller's unpack state: unpack is not applied.
@@ -66,7 +66,7 @@ Texture3::Texture3(Target target, TargetBinding binding, InternalFormat format, 
     if (!sizeAllowed(width, height, depth))
         ORU_THROW_AT(kPowerOfTwoFromDataLine, "Texture3::ctor hardware only supports power of two textures");
     loadTexture3DEntryPoints();
-    TextureTransfer(*this, 3, __FILE__).allocate(level, dataFormat, dataType, data);
+    TextureTransfer(*this, 3, __FILE__, __LINE__).allocate(level, dataFormat, dataType, data);
 }
 
 Texture3::~Texture3() = default;
@@ -76,44 +76,45 @@ void Texture3::setWrap(WrapMode s, WrapMode t, WrapMode r)
     glTexParameteri(target(), GL_TEXTURE_WRAP_S, static_cast<GLint>(WrapMode2GL(s)));
     glTexParameteri(target(), GL_TEXTURE_WRAP_T, static_cast<GLint>(WrapMode2GL(t)));
     glTexParameteri(target(), GL_TEXTURE_WRAP_R, static_cast<GLint>(WrapMode2GL(r)));
+    ORU_CHECK_GL(Texture3);
 }
 
 std::size_t Texture3::pixelDataSize(int /*level*/, Format format, Type type) const
 {
-    return TextureTransfer(*this, 3, __FILE__).pixelDataSize(__LINE__, format, type);
+    return TextureTransfer(*this, 3, __FILE__, __LINE__).pixelDataSize(format, type);
 }
 
 void Texture3::getPixelData(void* dst, int level, Format format, Type type, unsigned int rowAlignment) const
 {
-    TextureTransfer(*this, 3, __FILE__).getPixelData(Lines::at(__LINE__), dst, level, format, type, rowAlignment);
+    TextureTransfer(*this, 3, __FILE__, __LINE__).getPixelData(dst, level, format, type, rowAlignment);
 }
 
 void Texture3::getPixelData(Buffer* pbo, std::size_t offset, int level, Format format, Type type,
                             unsigned int rowAlignment) const
 {
-    TextureTransfer(*this, 3, __FILE__)
-        .getPixelData(Lines::at(__LINE__), pbo, offset, level, format, type, rowAlignment);
+    TextureTransfer(*this, 3, __FILE__, __LINE__)
+        .getPixelData(pbo, offset, level, format, type, rowAlignment);
 }
 
 void Texture3::subImage(int level, int x, int y, int z, std::size_t width, std::size_t height, std::size_t depth,
                         Format format, Type type, const void* data, const PixelUnpackParameters& unpack)
 {
-    TextureTransfer(*this, 3, __FILE__)
-        .subImage(Lines::at(__LINE__), level, { x, y, z, width, height, depth }, format, type, data, unpack);
+    TextureTransfer(*this, 3, __FILE__, __LINE__)
+        .subImage(level, { x, y, z, width, height, depth }, format, type, data, unpack);
 }
 
 void Texture3::subImage(int level, int x, int y, int z, std::size_t width, std::size_t height, std::size_t depth,
                         Format format, Type type, Buffer* pbo, std::size_t offset, const PixelUnpackParameters& unpack)
 {
-    TextureTransfer(*this, 3, __FILE__)
-        .subImage(Lines::at(__LINE__), level, { x, y, z, width, height, depth }, format, type, pbo, offset, unpack);
+    TextureTransfer(*this, 3, __FILE__, __LINE__)
+        .subImage(level, { x, y, z, width, height, depth }, format, type, pbo, offset, unpack);
 }
 
 void Texture3::copyTexSubImage(int level, int x, int y, int z, int readX, int readY, std::size_t width,
                                std::size_t height)
 {
-    TextureTransfer(*this, 3, __FILE__)
-        .copyTexSubImage(Lines::at(__LINE__), level, { x, y, z, width, height, 1 }, readX, readY);
+    TextureTransfer(*this, 3, __FILE__, __LINE__)
+        .copyTexSubImage(level, { x, y, z, width, height, 1 }, readX, readY);
 }
 
 Texture3D::Texture3D(InternalFormat format, std::size_t width, std::size_t height, std::size_t depth, bool mipmaps)

@@ -4,6 +4,7 @@
 #include "oru_ogl/extensionator/EntryPoints.h"
 #include "oru_ogl/extensionator/ExtensionManager.h"
 #include "oru_ogl/ogl/GLConstants.h"
+#include "oru_ogl/ogl/WrapperCheck.h"
 
 namespace Oru
 {
@@ -16,12 +17,14 @@ void TextureState::setActiveTexture(int unit)
 {
     ORU_REQUIRE_LOADED(_cgmActiveTextureARB, "glActiveTextureARB");
     _cgmActiveTextureARB(GL_TEXTURE0 + unit);
+    ORU_CHECK_GL(TextureState);
 }
 
 int TextureState::activeTexture()
 {
     GLint active = 0;
     glGetIntegerv(GL_ACTIVE_TEXTURE, &active);
+    ORU_CHECK_GL(TextureState);
     return active - static_cast<GLint>(GL_TEXTURE0);
 }
 

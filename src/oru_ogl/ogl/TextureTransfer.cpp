@@ -7,6 +7,7 @@
 #include "oru_ogl/ogl/Buffer.h"
 #include "oru_ogl/ogl/GLConstants.h"
 #include "oru_ogl/ogl/PixelUnpackParameters.h"
+#include "oru_ogl/ogl/WrapperCheck.h"
 
 #include <algorithm>
 #include <sstream>
@@ -37,13 +38,8 @@ const char* const kAxes[3] = { "width", "height", "depth" };
 const char* const kImageAxes[3] = { "width", "width", "depth" };
 const char* const kMapped = "Pixel Buffer Object cannot be memory mapped during data transfer";
 
-template <class Text>
-[[noreturn]] void raise(char const* file, int line, Text const& text)
-{
-    std::ostringstream message;
-    message << text;
-    detail::raiseInternal(file, line, message.str());
-}
+// The classes whose members the transfers are, by dimension.
+const char* const kOwners[3] = { "Texture1", "Texture2", "Texture3" };
 
 // Puts a target's previous binding back on the way out of a scope, through
 // glBindTexture or glBindBuffer.
@@ -83,16 +79,22 @@ public:
     PixelStoreScope& operator=(PixelStoreScope const&) = delete;
 };
 
-TextureTransfer::Lines TextureTransfer::Lines::at(int line)
-{
-    return Lines{ { line, line, line }, line, { line, line, line }, line, line, line, line };
-}
-
-TextureTransfer::TextureTransfer(Texture const& texture, int dimensions, char const* file)
+TextureTransfer::TextureTransfer(Texture const& texture, int dimensions, char const* file, int line)
     : texture_(texture)
     , dimensions_(dimensions)
     , file_(file)
+    , line_(line)
 {
+}
+
+void TextureTransfer::raise(int line, std::string const& text) const
+{
+    detail::raiseInternal(file_, line, text);
+}
+
+void TextureTransfer::checkGL(char const* member) const
+{
+    WrapperCheck::after(file_, line_, kOwners[dimensions_ - 1], member);
 }
 
 // ---------------------------------------------------------------------------
@@ -124,6 +126,7 @@ void TextureTransfer::allocate(bool mipmaps) const
         texImage(++level, size, GL_BGRA, GL_UNSIGNED_BYTE, NULL);
     }
     setStorageParameters();
+    checkGL(kOwners[dimensions_ - 1]); // the constructor's
 }
 
 void TextureTransfer::allocate(int level, Texture::Format format, Texture::Type type, const void* data) const
@@ -135,6 +138,7 @@ void TextureTransfer::allocate(int level, Texture::Format format, Texture::Type 
     const std::size_t size[3] = { texture_.width(0), texture_.height(0), texture_.depth(0) };
     texImage(level, size, glFormat, glType, data);
     setStorageParameters();
+    checkGL(kOwners[dimensions_ - 1]);
 }
 
 // Nearest sampling and edge clamping (GL_CLAMP before 1.2) on every axis: a
@@ -163,40 +167,41 @@ void TextureTransfer::setStorageParameters() const
 // Packed types, bitmaps and the 32-bit integer types are refused, as their
 // bytes per pixel are not channels times a component size; the message names
 // the type by the layer's own value.
-std::size_t TextureTransfer::pixelDataSize(int line, Texture::Format format, Texture::Type type) const
+std::size_t TextureTransfer::pixelDataSize(Texture::Format format, Texture::Type type) const
 {
     const std::size_t componentSize = Texture::ComponentSize(type);
     if (componentSize == 0)
-        raise(file_, line, std::string("pixelDataSize: Unknown type ") + TokenName(type));
+        raise(line_, std::string("pixelDataSize: Unknown type ") + TokenName(type));
     return Texture::Channels(format) * texture_.width(0) * texture_.height(0) * texture_.depth(0) * componentSize;
 }
 
-void TextureTransfer::getPixelData(Lines const& lines, void* dst, int level, Texture::Format format,
-                                   Texture::Type type, unsigned int rowAlignment) const
+void TextureTransfer::getPixelData(void* dst, int level, Texture::Format format, Texture::Type type,
+                                   unsigned int rowAlignment, Lines const* lines) const
 {
     if (!texture_.isBound())
-        raise(file_, lines.unbound, "Texture must be bound");
+        raise(lines ? lines->unbound : line_, "Texture must be bound");
     if (format == Texture::Format::COLOR_INDEX)
-        raise(file_, lines.colorIndex, "COLOR_INDEX not allowed here!");
+        raise(lines ? lines->colorIndex : line_, "COLOR_INDEX not allowed here!");
     const GLenum glFormat = Texture::Format2GL(format);
     const GLenum glType = Texture::Type2GL(type);
     PixelStoreScope store(rowAlignment);
     glGetTexImage(texture_.target(), level, glFormat, glType, dst);
+    checkGL("getPixelData");
 }
 
 // Into a pixel buffer at offset, for read-backs collected later without a
 // stall now. The buffer becomes a pack buffer and stays one; converting is
 // refused while it is bound to its current target. The offset is not checked
 // against the buffer's size: GL refuses a transfer that would overrun it.
-void TextureTransfer::getPixelData(Lines const& lines, Buffer* pbo, std::size_t offset, int level,
-                                   Texture::Format format, Texture::Type type, unsigned int rowAlignment) const
+void TextureTransfer::getPixelData(Buffer* pbo, std::size_t offset, int level, Texture::Format format,
+                                   Texture::Type type, unsigned int rowAlignment, Lines const* lines) const
 {
     if (!texture_.isBound())
-        raise(file_, lines.unbound, "Texture must be bound");
+        raise(lines ? lines->unbound : line_, "Texture must be bound");
     if (pbo->isMapped())
-        raise(file_, lines.mapped, kMapped);
+        raise(lines ? lines->mapped : line_, kMapped);
     if (format == Texture::Format::COLOR_INDEX)
-        raise(file_, lines.colorIndex, "COLOR_INDEX not allowed here!");
+        raise(lines ? lines->colorIndex : line_, "COLOR_INDEX not allowed here!");
     const GLenum glFormat = Texture::Format2GL(format);
     const GLenum glType = Texture::Type2GL(type);
     PixelStoreScope store(rowAlignment);
@@ -205,6 +210,7 @@ void TextureTransfer::getPixelData(Lines const& lines, Buffer* pbo, std::size_t 
     RebindScope rebind(_cgmBindBuffer, pbo->target(), pbo->getBoundID());
     pbo->bind();
     glGetTexImage(texture_.target(), level, glFormat, glType, reinterpret_cast<void*>(offset));
+    checkGL("getPixelData");
 }
 
 // ---------------------------------------------------------------------------
@@ -215,8 +221,8 @@ void TextureTransfer::getPixelData(Lines const& lines, Buffer* pbo, std::size_t 
 // after the push, and the state is popped again.
 // ---------------------------------------------------------------------------
 
-void TextureTransfer::subImage(Lines const& lines, int level, Region const& region, Texture::Format format,
-                               Texture::Type type, const void* data, const PixelUnpackParameters& unpack) const
+void TextureTransfer::subImage(int level, Region const& region, Texture::Format format, Texture::Type type,
+                               const void* data, const PixelUnpackParameters& unpack, Lines const* lines) const
 {
     checkRegion(lines, "subimage", dimensions_, level, region);
     const GLenum glFormat = Texture::Format2GL(format);
@@ -224,25 +230,26 @@ void TextureTransfer::subImage(Lines const& lines, int level, Region const& regi
     PixelStoreScope store;
     unpack.apply();
     texSubImage(level, region, glFormat, glType, data);
+    checkGL("subImage");
 }
 
 // From a pixel buffer, reading from offset on. The offset must lie inside the
 // buffer (an offset equal to the size leaves nothing to read) and the buffer
 // must not be mapped; data that runs past the end is GL's to refuse. The
 // buffer becomes an unpack buffer and stays one.
-void TextureTransfer::subImage(Lines const& lines, int level, Region const& region, Texture::Format format,
-                               Texture::Type type, Buffer* pbo, std::size_t offset,
-                               const PixelUnpackParameters& unpack) const
+void TextureTransfer::subImage(int level, Region const& region, Texture::Format format, Texture::Type type,
+                               Buffer* pbo, std::size_t offset, const PixelUnpackParameters& unpack,
+                               Lines const* lines) const
 {
     checkRegion(lines, "subimage", dimensions_, level, region);
     if (offset >= pbo->size())
     {
         std::ostringstream text;
         text << "offset(" << offset << ") is greater than pixel buffer object size" << pbo->size();
-        raise(file_, lines.offset, text.str());
+        raise(lines ? lines->offset : line_, text.str());
     }
     if (pbo->isMapped())
-        raise(file_, lines.mapped, kMapped);
+        raise(lines ? lines->mapped : line_, kMapped);
     const GLenum glFormat = Texture::Format2GL(format);
     const GLenum glType = Texture::Type2GL(type);
     PixelStoreScope store;
@@ -252,6 +259,7 @@ void TextureTransfer::subImage(Lines const& lines, int level, Region const& regi
     RebindScope rebind(_cgmBindBuffer, pbo->target(), pbo->getBoundID());
     pbo->bind();
     texSubImage(level, region, glFormat, glType, reinterpret_cast<const void*>(offset));
+    checkGL("subImage");
 }
 
 // ---------------------------------------------------------------------------
@@ -261,7 +269,7 @@ void TextureTransfer::subImage(Lines const& lines, int level, Region const& regi
 // height only. No client memory is involved, so no pixel-store state either.
 // ---------------------------------------------------------------------------
 
-void TextureTransfer::copyTexSubImage(Lines const& lines, int level, Region const& region, int readX, int readY) const
+void TextureTransfer::copyTexSubImage(int level, Region const& region, int readX, int readY, Lines const* lines) const
 {
     checkRegion(lines, "copySubimage", std::min(dimensions_, 2), level, region);
     const GLenum target = texture_.target();
@@ -273,21 +281,23 @@ void TextureTransfer::copyTexSubImage(Lines const& lines, int level, Region cons
     case 2: glCopyTexSubImage2D(target, level, region.x, region.y, readX, readY, width, height); break;
     default: _cgmCopyTexSubImage3D(target, level, region.x, region.y, region.z, readX, readY, width, height);
     }
+    checkGL("copyTexSubImage");
 }
 
 // ---------------------------------------------------------------------------
 // What differs by dimension.
 // ---------------------------------------------------------------------------
 
-void TextureTransfer::checkRegion(Lines const& lines, char const* operation, int axes, int level,
+void TextureTransfer::checkRegion(Lines const* lines, char const* operation, int axes, int level,
                                   Region const& region) const
 {
     const std::size_t size[3] = { region.width, region.height, region.depth };
     for (int axis = 0; axis < axes; ++axis)
         if (size[axis] == 0)
-            raise(file_, lines.zero[axis], std::string("error ") + operation + " " + kAxes[axis] + " of zero supplied");
+            raise(lines ? lines->zero[axis] : line_,
+                  std::string("error ") + operation + " " + kAxes[axis] + " of zero supplied");
     if (level < 0)
-        raise(file_, lines.level, "a negative texture image mip-map level supplied");
+        raise(lines ? lines->level : line_, "a negative texture image mip-map level supplied");
     const std::size_t image[3] = { texture_.width(0), texture_.height(0), texture_.depth(0) };
     for (int axis = 0; axis < axes; ++axis)
     {
@@ -296,7 +306,7 @@ void TextureTransfer::checkRegion(Lines const& lines, char const* operation, int
             std::ostringstream text;
             text << kAxes[axis] << "(" << size[axis] << ") is greater than " << kImageAxes[axis] << " of image ("
                  << image[axis] << ") ";
-            raise(file_, lines.larger[axis], text.str());
+            raise(lines ? lines->larger[axis] : line_, text.str());
         }
     }
 }

@@ -7,13 +7,15 @@
 // number of axes and the GL function called; both live here. Private to the
 // library.
 //
-// The checks report the file of the texture class and the lines it passes:
-// a class whose lines callers match on passes a table of them, the others
-// pass the line of the member (Lines::at(__LINE__)).
+// The checks report the file of the texture class and the line of the member
+// that made the transfer, or, for a class whose lines callers match on, the
+// lines of its table. With checked wrappers on, each operation ends with the
+// GL error check, naming the member ("Texture2::subImage").
 
 #include "oru_ogl/ogl/Texture.h"
 
 #include <cstddef>
+#include <string>
 
 namespace Oru
 {
@@ -45,13 +47,10 @@ public:
         int mapped;    // a mapped pixel buffer
         int unbound;   // a read-back of a texture that is not bound
         int colorIndex; // a read-back as COLOR_INDEX
-
-        /// Every check of the transfer reports the one line.
-        static Lines at(int line);
     };
 
-    /// file: the texture class's source, as __FILE__ gives it there.
-    TextureTransfer(Texture const& texture, int dimensions, char const* file);
+    /// file and line: the member's, as __FILE__ and __LINE__ give them there.
+    TextureTransfer(Texture const& texture, int dimensions, char const* file, int line);
 
     /// Storage for level 0 and, with mipmaps, every level down to one texel;
     /// nearest filtering and edge clamping. The caller's texture stays bound.
@@ -59,25 +58,28 @@ public:
     /// One level from data, with the caller's unpack state; no mip chain.
     void allocate(int level, Texture::Format format, Texture::Type type, const void* data) const;
 
-    std::size_t pixelDataSize(int line, Texture::Format format, Texture::Type type) const;
+    /// Without a table of lines, the checks report the member's line.
+    std::size_t pixelDataSize(Texture::Format format, Texture::Type type) const;
 
-    void getPixelData(Lines const& lines, void* dst, int level, Texture::Format format, Texture::Type type,
-                      unsigned int rowAlignment) const;
-    void getPixelData(Lines const& lines, Buffer* pbo, std::size_t offset, int level, Texture::Format format,
-                      Texture::Type type, unsigned int rowAlignment) const;
+    void getPixelData(void* dst, int level, Texture::Format format, Texture::Type type, unsigned int rowAlignment,
+                      Lines const* lines = nullptr) const;
+    void getPixelData(Buffer* pbo, std::size_t offset, int level, Texture::Format format, Texture::Type type,
+                      unsigned int rowAlignment, Lines const* lines = nullptr) const;
 
-    void subImage(Lines const& lines, int level, Region const& region, Texture::Format format, Texture::Type type,
-                  const void* data, const PixelUnpackParameters& unpack) const;
-    void subImage(Lines const& lines, int level, Region const& region, Texture::Format format, Texture::Type type,
-                  Buffer* pbo, std::size_t offset, const PixelUnpackParameters& unpack) const;
+    void subImage(int level, Region const& region, Texture::Format format, Texture::Type type, const void* data,
+                  const PixelUnpackParameters& unpack, Lines const* lines = nullptr) const;
+    void subImage(int level, Region const& region, Texture::Format format, Texture::Type type, Buffer* pbo,
+                  std::size_t offset, const PixelUnpackParameters& unpack, Lines const* lines = nullptr) const;
 
     /// Copies from the read buffer; region.x, y, z are where the pixels go.
-    void copyTexSubImage(Lines const& lines, int level, Region const& region, int readX, int readY) const;
+    void copyTexSubImage(int level, Region const& region, int readX, int readY, Lines const* lines = nullptr) const;
 
 private:
     class PixelStoreScope;
 
-    void checkRegion(Lines const& lines, char const* operation, int axes, int level, Region const& region) const;
+    void checkRegion(Lines const* lines, char const* operation, int axes, int level, Region const& region) const;
+    [[noreturn]] void raise(int line, std::string const& text) const;
+    void checkGL(char const* member) const;
     void texImage(int level, std::size_t const* size, unsigned int format, unsigned int type, const void* data) const;
     void texSubImage(int level, Region const& region, unsigned int format, unsigned int type, const void* pixels) const;
     void setStorageParameters() const;
@@ -85,6 +87,7 @@ private:
     Texture const& texture_;
     int dimensions_;
     char const* file_;
+    int line_;
 };
 
 } // namespace OGL

@@ -4,6 +4,7 @@
 #include "oru_ogl/extensionator/ExtensionManager.h"
 #include "oru_ogl/ogl/GLConstants.h"
 #include "oru_ogl/ogl/TwoWayTable.h"
+#include "oru_ogl/ogl/WrapperCheck.h"
 
 // The texture-unit table. One object per fixed-function unit of the context the
 // layer was started for, made by Library at start-up and deleted at shutdown.
@@ -36,6 +37,10 @@ unsigned int TextureUnit::nMaxTextureUnit_ = 0;
 // count comes from the extension manager, which must exist already.
 void TextureUnit::Create(Context* /*pContext*/)
 {
+    // Start-up's step in the wrappers' part of the layer: the wrappers' GL
+    // error check is switched by the options here, so that each check costs
+    // one test of a flag.
+    WrapperCheck::switchOn(ExtensionManager::Instance()->initOptions().checkedWrappers());
     if (nMaxTextureUnit_ != 0)
         return;
     const unsigned int count = ExtensionManager::Instance()->numberOfTextureUnits();
@@ -49,6 +54,7 @@ void TextureUnit::Create(Context* /*pContext*/)
 // next start-up.
 void TextureUnit::Destroy()
 {
+    WrapperCheck::switchOn(false);
     for (TextureUnit* unit : units_)
         delete unit;
     units_.clear();
@@ -98,24 +104,29 @@ void TextureUnit::bindTexture(unsigned int target, unsigned int name) const
 {
     verifyActiveTexture();
     glBindTexture(target, name);
+    ORU_CHECK_GL(TextureUnit);
 }
 
 void TextureUnit::enable(unsigned int target) const
 {
     verifyActiveTexture();
     glEnable(target);
+    ORU_CHECK_GL(TextureUnit);
 }
 
 void TextureUnit::disable(unsigned int target) const
 {
     verifyActiveTexture();
     glDisable(target);
+    ORU_CHECK_GL(TextureUnit);
 }
 
 bool TextureUnit::isEnabled(unsigned int target) const
 {
     verifyActiveTexture();
-    return glIsEnabled(target) == GL_TRUE;
+    const bool enabled = glIsEnabled(target) == GL_TRUE;
+    ORU_CHECK_GL(TextureUnit);
+    return enabled;
 }
 
 void TextureUnit::bind1DDefault() const { bindTexture(GL_TEXTURE_1D, 0); }
@@ -157,6 +168,7 @@ void TextureUnit::setEnv(Environment mode) const
     verifyActiveTexture();
     const GLint glMode = static_cast<GLint>(Environment2GL(mode));
     glTexEnvi(GL_TEXTURE_ENV, GL_TEXTURE_ENV_MODE, glMode);
+    ORU_CHECK_GL(TextureUnit);
 }
 
 namespace
