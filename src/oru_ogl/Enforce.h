@@ -14,6 +14,10 @@
 // refuses a call through an entry-point pointer that was never loaded, naming
 // the function, instead of calling through null. Keep each check on one line:
 // the line reported is the line of the macro.
+//
+// Where the line a check reports is fixed by callers who match on it, and the
+// code around it moves, the _AT forms take that line as a named constant:
+// ORU_VERIFY_AT(kLinkLine, expr) and ORU_THROW_AT(kLinkLine, a << b).
 
 #include "oru_ogl/OglExport.h"
 
@@ -44,6 +48,12 @@ namespace detail
 
 #define ORU_THROW(streamed) \
     do { std::ostringstream oruText_; oruText_ << streamed; ::Oru::OGL::detail::raiseInternal(__FILE__, __LINE__, oruText_.str()); } while (0)
+
+#define ORU_VERIFY_AT(line, expr) \
+    do { if (!(expr)) ::Oru::OGL::detail::raiseInternal(__FILE__, line, #expr); } while (0)
+
+#define ORU_THROW_AT(line, streamed) \
+    do { std::ostringstream oruText_; oruText_ << streamed; ::Oru::OGL::detail::raiseInternal(__FILE__, line, oruText_.str()); } while (0)
 
 #define ORU_REQUIRE_LOADED(pointer, function) \
     do { if (!(pointer)) ::Oru::OGL::detail::raiseNotLoaded(__FILE__, __LINE__, function); } while (0)

@@ -1,11 +1,12 @@
-"""TokenName: a two-level table over the value, a static string per row."""
+"""TokenName: a two-level table over the value, a static string per row; and the
+library's GL constants, one per name of the same table."""
 import os
 
 from .output import banner, write_if_changed
 
 SOURCE = "gl_tokens.tsv"
 SOURCES = (SOURCE,)
-OUTPUTS = ("TokenNameTable.cpp", "TokenNames.inc")
+OUTPUTS = ("TokenNameTable.cpp", "TokenNames.inc", "ogl/GLConstants.h")
 
 
 def read_tokens(catalogue_dir):
@@ -98,3 +99,61 @@ def generate(catalogue_dir, output_dir):
     rows_def = [banner(SOURCE), "// ORU_TOKEN(value, name); no include guard.\n"]
     rows_def += ["ORU_TOKEN(0x%04Xu, %s)\n" % (value, name) for value, name in rows]
     write_if_changed(os.path.join(output_dir, OUTPUTS[1]), "".join(rows_def))
+
+    write_if_changed(os.path.join(output_dir, OUTPUTS[2]), constants_header(rows))
+
+
+# Names the wrappers use for values that the table keeps under another name:
+# the ARB float formats and half-float type (kept as their _APPLE twins) and
+# the framebuffer binding query (kept as the blit extension's draw binding).
+# Each takes the value of the table's name, so no value is written twice.
+ALIASES = [
+    ("GL_RGBA32F_ARB", "GL_RGBA_FLOAT32_APPLE"),
+    ("GL_RGB32F_ARB", "GL_RGB_FLOAT32_APPLE"),
+    ("GL_ALPHA32F_ARB", "GL_ALPHA_FLOAT32_APPLE"),
+    ("GL_INTENSITY32F_ARB", "GL_INTENSITY_FLOAT32_APPLE"),
+    ("GL_LUMINANCE32F_ARB", "GL_LUMINANCE_FLOAT32_APPLE"),
+    ("GL_LUMINANCE_ALPHA32F_ARB", "GL_LUMINANCE_ALPHA_FLOAT32_APPLE"),
+    ("GL_RGBA16F_ARB", "GL_RGBA_FLOAT16_APPLE"),
+    ("GL_RGB16F_ARB", "GL_RGB_FLOAT16_APPLE"),
+    ("GL_ALPHA16F_ARB", "GL_ALPHA_FLOAT16_APPLE"),
+    ("GL_INTENSITY16F_ARB", "GL_INTENSITY_FLOAT16_APPLE"),
+    ("GL_LUMINANCE16F_ARB", "GL_LUMINANCE_FLOAT16_APPLE"),
+    ("GL_LUMINANCE_ALPHA16F_ARB", "GL_LUMINANCE_ALPHA_FLOAT16_APPLE"),
+    ("GL_HALF_FLOAT_ARB", "GL_HALF_APPLE"),
+    ("GL_FRAMEBUFFER_BINDING_EXT", "GL_DRAW_FRAMEBUFFER_BINDING_EXT"),
+]
+
+
+# Values the library needs that the table does not name (TokenName answers
+# "Unknown Token" for them): 0x8D45 opens the stencil-index range of
+# GL_EXT_framebuffer_object, the GL_STENCIL_INDEX_EXT of its early revisions
+# that later headers dropped.
+UNNAMED = [
+    ("GL_STENCIL_INDEX_EXT", 0x8D45),
+]
+
+
+def constants_header(rows):
+    """Every name of the table as a macro, defined only where the system's GL
+    headers have not (MinGW's glext.h has most, MSVC ships none), then the aliases."""
+    names = {name for _, name in rows}
+    out = [banner(SOURCE),
+           "#ifndef ORU_OGL_OGL_GLCONSTANTS_H\n#define ORU_OGL_OGL_GLCONSTANTS_H\n\n",
+           "// The GL values of the library, private to it: clients use the layer's enumerations.\n",
+           '#include "oru_ogl/extensionator/GLTypes.h"\n\n']
+    for value, name in rows:
+        out.append("#ifndef %s\n#define %s 0x%04X\n#endif\n" % (name, name, value))
+    out.append("\n// Other names of values in the table.\n")
+    for alias, name in ALIASES:
+        if name not in names:
+            raise SystemExit("%s: alias %s names %s, which is not in the table" % (SOURCE, alias, name))
+        out.append("#ifndef %s\n#define %s %s\n#endif\n" % (alias, alias, name))
+    out.append("\n// Values the table does not name.\n")
+    values = {value for value, _ in rows}
+    for name, value in UNNAMED:
+        if name in names or value in values:
+            raise SystemExit("%s: %s (0x%04X) is in the table now; drop it from UNNAMED" % (SOURCE, name, value))
+        out.append("#ifndef %s\n#define %s 0x%04X\n#endif\n" % (name, name, value))
+    out.append("\n#endif\n")
+    return "".join(out)

@@ -35,7 +35,7 @@
 #include "oru_ogl/extensionator/windows/WglEntryPoints.h"
 #include "oru_ogl/ogl/Context.h"
 
-#include <GL/gl.h>
+#include "oru_ogl/ogl/GLConstants.h"
 #include <emmintrin.h> // SSE2: every x86-64 processor has it
 #include <sstream>
 
@@ -47,8 +47,8 @@ namespace OGL
 namespace
 {
 
-const GLenum kMaxTextureUnits = 0x84E2;      // GL_MAX_TEXTURE_UNITS
-const GLenum kMaxTextureImageUnits = 0x8872; // GL_MAX_TEXTURE_IMAGE_UNITS_ARB
+const GLenum kMaxTextureUnits = GL_MAX_TEXTURE_UNITS;
+const GLenum kMaxTextureImageUnits = GL_MAX_TEXTURE_IMAGE_UNITS; // also GL_ARB_fragment_program's
 
 std::string glText(GLenum name)
 {

@@ -63,6 +63,12 @@ public:
         void setRekorderPathname(std::string& pathname);
         /// The recorder path name.
         std::string const& rekorderPathname() const;
+        /// Wrapper members check glGetError before they return and throw
+        /// ExceptionOGL naming the member ("Texture2::subImage: invalid
+        /// value"). Off by default: wrappers then leave GL errors to GL.
+        void setCheckedWrappers(bool value) { bCheckedWrappers_ = value; }
+        /// The checked-wrappers option.
+        bool checkedWrappers() const { return bCheckedWrappers_; }
 
         // Today's drivers: their 3.0 and later compatibility contexts, and
         // their debug output. Off by default.
@@ -89,6 +95,7 @@ public:
         bool bThrowOnNullContext_;
         bool bFlushOnMakeCurrentMacOnly_;
         std::string rekorderPathname_;
+        bool bCheckedWrappers_ = false;
 
         bool bCompatibilityCoreVersions_ = false;
         bool bDriverDebugOutput_ = false;

@@ -4,6 +4,8 @@
 #include "oru_ogl/extensionator/EntryPoints.h"
 #include "oru_ogl/extensionator/ExtensionManager.h"
 #include "oru_ogl/ogl/GLConstants.h"
+#include "oru_ogl/ogl/TwoWayTable.h"
+#include "oru_ogl/ogl/WrapperCheck.h"
 
 // Buffer objects through the GL 1.5 entry points. The extensions are what the
 // constructor requires; the 1.5 names are the same functions. A driver that
@@ -24,44 +26,25 @@ void loadBufferEntryPoints()
         ExtensionManager::Instance()->initialize(OPEN_GL_1_5);
 }
 
-struct TypeRow
-{
-    Buffer::Type type;
-    GLenum target;
-    GLenum bindingQuery;
-};
+// The usage tables share the type tables' text.
+const char* const kUntranslated = "!\"Buffer type enums are not all properly translated.\"";
 
-const TypeRow kTypes[] = {
-    { Buffer::eUnpack, GL_PIXEL_UNPACK_BUFFER, GL_PIXEL_UNPACK_BUFFER_BINDING },
-    { Buffer::ePack, GL_PIXEL_PACK_BUFFER, GL_PIXEL_PACK_BUFFER_BINDING },
-    { Buffer::eArray, GL_ARRAY_BUFFER, GL_ARRAY_BUFFER_BINDING },
-    { Buffer::eElementArray, GL_ELEMENT_ARRAY_BUFFER, GL_ELEMENT_ARRAY_BUFFER_BINDING },
+const TwoWayTable<Buffer::Type>::Row kTypeRows[] = {
+    { Buffer::eUnpack, GL_PIXEL_UNPACK_BUFFER },
+    { Buffer::ePack, GL_PIXEL_PACK_BUFFER },
+    { Buffer::eArray, GL_ARRAY_BUFFER },
+    { Buffer::eElementArray, GL_ELEMENT_ARRAY_BUFFER },
 };
+const TwoWayTable<Buffer::Type> kTypes(kTypeRows, __FILE__, __LINE__, kUntranslated);
 
-struct UsageRow
-{
-    Buffer::Usage usage;
-    GLenum gl;
-};
-
-const UsageRow kUsages[] = {
+const TwoWayTable<Buffer::Usage>::Row kUsageRows[] = {
     { Buffer::eStreamDraw, GL_STREAM_DRAW },   { Buffer::eStreamRead, GL_STREAM_READ },
     { Buffer::eStreamCopy, GL_STREAM_COPY },   { Buffer::eStaticDraw, GL_STATIC_DRAW },
     { Buffer::eStaticRead, GL_STATIC_READ },   { Buffer::eStaticCopy, GL_STATIC_COPY },
     { Buffer::eDynamicDraw, GL_DYNAMIC_DRAW }, { Buffer::eDynamicRead, GL_DYNAMIC_READ },
     { Buffer::eDynamicCopy, GL_DYNAMIC_COPY },
 };
-
-TypeRow const& row(Buffer::Type type)
-{
-    for (TypeRow const& r : kTypes)
-    {
-        if (r.type == type)
-            return r;
-    }
-    ORU_VERIFY(!"Buffer type enums are not all properly translated.");
-    return kTypes[0];
-}
+const TwoWayTable<Buffer::Usage> kUsages(kUsageRows, __FILE__, __LINE__, kUntranslated);
 
 } // namespace
 
@@ -111,6 +94,7 @@ Buffer::Buffer(long long nSize, Type /*type*/, Usage usage, const void* data)
     bind();
     _cgmBufferData(target(), static_cast<GLsizeiptr>(nSize), data, glUsage);
     _cgmBindBuffer(target(), previous);
+    ORU_CHECK_GL(Buffer);
 }
 
 Buffer::~Buffer()
@@ -136,30 +120,35 @@ bool Buffer::isMapped() const
 void Buffer::bind()
 {
     _cgmBindBuffer(target(), n_ObjectID);
+    ORU_CHECK_GL(Buffer);
 }
 
 void Buffer::bindDefaultUnpackBuffer()
 {
     loadBufferEntryPoints();
     _cgmBindBuffer(GL_PIXEL_UNPACK_BUFFER, 0);
+    ORU_CHECK_GL(Buffer);
 }
 
 void Buffer::bindDefaultPackBuffer()
 {
     loadBufferEntryPoints();
     _cgmBindBuffer(GL_PIXEL_PACK_BUFFER, 0);
+    ORU_CHECK_GL(Buffer);
 }
 
 void Buffer::bindDefaultArrayBuffer()
 {
     loadBufferEntryPoints();
     _cgmBindBuffer(GL_ARRAY_BUFFER, 0);
+    ORU_CHECK_GL(Buffer);
 }
 
 void Buffer::bindDefaultElementArrayBuffer()
 {
     loadBufferEntryPoints();
     _cgmBindBuffer(GL_ELEMENT_ARRAY_BUFFER, 0);
+    ORU_CHECK_GL(Buffer);
 }
 
 bool Buffer::isUnpackBuffer() const
@@ -221,6 +210,7 @@ void* Buffer::map(unsigned int access)
         ORU_THROW("Buffer is already mapped (this will cause a GL error)");
     void* pointer = _cgmMapBuffer(target(), access);
     bMapped_ = true;
+    ORU_CHECK_GL(Buffer);
     return pointer;
 }
 
@@ -234,6 +224,7 @@ void Buffer::unmap()
     if (_cgmUnmapBuffer(target()) == GL_FALSE)
         ORU_THROW("Cannot unmap buffer");
     bMapped_ = false;
+    ORU_CHECK_GL(Buffer);
 }
 
 void Buffer::subData(long long offset, long long size, const void* data)
@@ -245,6 +236,7 @@ void Buffer::subData(long long offset, long long size, const void* data)
     if (offset < 0)
         ORU_THROW("Buffer::subData offset must not be negative");
     _cgmBufferSubData(target(), static_cast<GLintptr>(offset), static_cast<GLsizeiptr>(size), data);
+    ORU_CHECK_GL(Buffer);
 }
 
 void Buffer::getSubData(long long offset, long long size, void* data)
@@ -256,6 +248,7 @@ void Buffer::getSubData(long long offset, long long size, void* data)
     if (offset < 0)
         ORU_THROW("Buffer::getSubData offset must not be negative");
     _cgmGetBufferSubData(target(), static_cast<GLintptr>(offset), static_cast<GLsizeiptr>(size), data);
+    ORU_CHECK_GL(Buffer);
 }
 
 // Kept as the place for a check of the current buffer object; it has none.
@@ -263,43 +256,10 @@ void Buffer::verifyCurrentBufferObject() const
 {
 }
 
-unsigned int Buffer::Type2GL(Type type)
-{
-    return row(type).target;
-}
-
-Buffer::Type Buffer::GL2Type(unsigned int type)
-{
-    for (TypeRow const& r : kTypes)
-    {
-        if (r.target == type)
-            return r.type;
-    }
-    ORU_VERIFY(!"Buffer type enums are not all properly translated.");
-    return eUnpack;
-}
-
-unsigned int Buffer::Usage2GL(Usage usage)
-{
-    for (UsageRow const& r : kUsages)
-    {
-        if (r.usage == usage)
-            return r.gl;
-    }
-    ORU_VERIFY(!"Buffer type enums are not all properly translated.");
-    return 0;
-}
-
-Buffer::Usage Buffer::GL2Usage(unsigned int usage)
-{
-    for (UsageRow const& r : kUsages)
-    {
-        if (r.gl == usage)
-            return r.usage;
-    }
-    ORU_VERIFY(!"Buffer type enums are not all properly translated.");
-    return eStreamDraw;
-}
+unsigned int Buffer::Type2GL(Type type) { return kTypes.toGL(type); }
+Buffer::Type Buffer::GL2Type(unsigned int type) { return kTypes.fromGL(type); }
+unsigned int Buffer::Usage2GL(Usage usage) { return kUsages.toGL(usage); }
+Buffer::Usage Buffer::GL2Usage(unsigned int usage) { return kUsages.fromGL(usage); }
 
 } // namespace OGL
 } // namespace Oru

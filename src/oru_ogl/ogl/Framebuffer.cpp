@@ -7,6 +7,7 @@
 #include "oru_ogl/ogl/GLConstants.h"
 #include "oru_ogl/ogl/Renderbuffer.h"
 #include "oru_ogl/ogl/Texture2.h"
+#include "oru_ogl/ogl/WrapperCheck.h"
 
 // Framebuffer objects of GL_EXT_framebuffer_object: render into textures and
 // renderbuffers instead of the window. Everything that changes attachments
@@ -41,6 +42,7 @@ unsigned int Framebuffer::maxColorAttachments()
 {
     GLint count = 0;
     glGetIntegerv(GL_MAX_COLOR_ATTACHMENTS_EXT, &count);
+    ORU_CHECK_GL(Framebuffer);
     return static_cast<unsigned int>(count);
 }
 
@@ -50,6 +52,7 @@ Framebuffer::Framebuffer()
     ORU_VERIFY(Oru::OGL::ExtensionManager::Instance()->isSupported(GL_EXT_FRAMEBUFFER_OBJECT));
     _cgmGenFramebuffersEXT(1, &n_ObjectID);
     ORU_VERIFY(n_ObjectID != 0);
+    ORU_CHECK_GL(Framebuffer);
 }
 
 // Deleting the bound framebuffer binds the window's framebuffer again.
@@ -61,6 +64,7 @@ Framebuffer::~Framebuffer()
 void Framebuffer::bind()
 {
     _cgmBindFramebufferEXT(target(), n_ObjectID);
+    ORU_CHECK_GL(Framebuffer);
 }
 
 void Framebuffer::unbind()
@@ -68,6 +72,7 @@ void Framebuffer::unbind()
     if (!isBound())
         ORU_THROW("Framebuffer object must be bound before calling unbind()");
     _cgmBindFramebufferEXT(target(), 0);
+    ORU_CHECK_GL(Framebuffer);
 }
 
 bool Framebuffer::statusOkay(unsigned int* status) const
@@ -75,6 +80,7 @@ bool Framebuffer::statusOkay(unsigned int* status) const
     if (!isBound())
         ORU_THROW("Framebuffer object must be bound before calling statusOkay()");
     const GLenum result = _cgmCheckFramebufferStatusEXT(GL_FRAMEBUFFER_EXT);
+    ORU_CHECK_GL(Framebuffer);
     if (status != NULL)
         *status = result;
     return result == GL_FRAMEBUFFER_COMPLETE_EXT;
@@ -93,6 +99,7 @@ void Framebuffer::attach(Texture2* texture, unsigned int level, unsigned int ind
     checkIndex(index);
     _cgmFramebufferTexture2DEXT(target(), GL_COLOR_ATTACHMENT0_EXT + index, texture->target(), texture->objectID(),
                                 static_cast<GLint>(level));
+    ORU_CHECK_GL(Framebuffer);
     unsigned int status = 0;
     if (statusOkay(&status))
         return;
@@ -116,6 +123,7 @@ void Framebuffer::attach(Renderbuffer* renderbuffer, unsigned int index)
     if (renderbuffer->format() == GL_DEPTH_STENCIL_EXT)
         _cgmFramebufferRenderbufferEXT(target(), GL_STENCIL_ATTACHMENT_EXT, renderbuffer->target(),
                                        renderbuffer->objectID());
+    ORU_CHECK_GL(Framebuffer);
     unsigned int status = 0;
     if (statusOkay(&status))
         return;
@@ -134,6 +142,7 @@ void Framebuffer::detach(Texture2* texture, unsigned int index)
         ORU_THROW("Framebuffer Object must be bound before detaching objects");
     checkIndex(index);
     _cgmFramebufferTexture2DEXT(target(), GL_COLOR_ATTACHMENT0_EXT + index, texture->target(), 0, 0);
+    ORU_CHECK_GL(Framebuffer);
 }
 
 // A depth-stencil renderbuffer is detached from the depth point only; its
@@ -147,6 +156,7 @@ void Framebuffer::detach(Renderbuffer* renderbuffer, unsigned int index)
     if (index != 0 && renderbuffer->attachment() != GL_COLOR_ATTACHMENT0_EXT)
         ORU_THROW("Color buffer index is not supported with attachment:" << TokenName(renderbuffer->attachment()));
     _cgmFramebufferRenderbufferEXT(target(), renderbuffer->attachment() + index, renderbuffer->target(), 0);
+    ORU_CHECK_GL(Framebuffer);
 }
 
 } // namespace OGL

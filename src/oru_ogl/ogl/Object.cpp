@@ -1,6 +1,7 @@
 #include "oru_ogl/ogl/Object.h"
 
 #include "oru_ogl/extensionator/GLTypes.h"
+#include "oru_ogl/ogl/WrapperCheck.h"
 
 // The binding query is answered by GL itself, not by a flag kept here: code
 // outside the layer binds and unbinds objects directly, and the wrappers'
@@ -54,6 +55,7 @@ unsigned int Object::getBoundID() const
 {
     GLint bound = 0;
     glGetIntegerv(nBindingQuery_, &bound);
+    ORU_CHECK_GL(Object);
     return static_cast<unsigned int>(bound);
 }
 

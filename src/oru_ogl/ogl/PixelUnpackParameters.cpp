@@ -3,6 +3,7 @@
 #include "oru_ogl/Enforce.h"
 #include "oru_ogl/extensionator/ExtensionManager.h"
 #include "oru_ogl/ogl/GLConstants.h"
+#include "oru_ogl/ogl/WrapperCheck.h"
 
 // The layout of client pixel data that a texture upload reads, as a value the
 // caller fills in once and hands to every upload that needs it.
@@ -24,6 +25,15 @@ namespace Oru
 {
 namespace OGL
 {
+
+namespace
+{
+
+// The lines that this file's checks report; callers match on them.
+const int kBadBytesLine = 175;
+const int kBadAlignmentLine = 216;
+
+} // namespace
 
 // Tightly packed rows by default: the usual case for image data held in
 // arrays, where GL's own default of 4-byte rows silently skews any image whose
@@ -172,7 +182,7 @@ void PixelUnpackParameters::setAlignment(unsigned int bytes)
         eAlignment_ = ALIGN_8;
         break;
     default:
-        ORU_VERIFY(!"Unsupported aligment in PixelUnpackParameters::setAlignment!");
+        ORU_VERIFY_AT(kBadBytesLine, !"Unsupported aligment in PixelUnpackParameters::setAlignment!");
     }
 }
 
@@ -213,9 +223,10 @@ void PixelUnpackParameters::apply() const
         bytes = 8;
         break;
     default:
-        ORU_THROW("Enum value not recognized");
+        ORU_THROW_AT(kBadAlignmentLine, "Enum value not recognized");
     }
     glPixelStorei(GL_UNPACK_ALIGNMENT, bytes);
+    ORU_CHECK_GL(PixelUnpackParameters);
 }
 
 } // namespace OGL

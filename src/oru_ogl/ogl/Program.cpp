@@ -3,13 +3,16 @@
 #include "oru_ogl/Enforce.h"
 #include "oru_ogl/extensionator/EntryPoints.h"
 #include "oru_ogl/extensionator/ExtensionManager.h"
+#include "oru_ogl/ogl/GLConstants.h"
+#include "oru_ogl/ogl/WrapperCheck.h"
 
 #include <string>
 #include <vector>
 
 // GLSL programs. Like the shaders, they call the OpenGL 2.0 entry points
 // through the _cgm pointers, not through the client's interception chain, and
-// leave GL errors to GL. isEnabled() alone uses the 1.1 glGetIntegerv.
+// leave GL errors to GL unless checked wrappers are on (WrapperCheck.h).
+// isEnabled() alone uses the 1.1 glGetIntegerv.
 
 namespace Oru
 {
@@ -19,15 +22,21 @@ namespace OGL
 namespace
 {
 
-const GLenum kFragmentShader = 0x8B30;         // GL_FRAGMENT_SHADER
-const GLenum kVertexShader = 0x8B31;           // GL_VERTEX_SHADER
-const GLenum kShaderType = 0x8B4F;             // GL_SHADER_TYPE
-const GLenum kLinkStatus = 0x8B82;             // GL_LINK_STATUS
-const GLenum kValidateStatus = 0x8B83;         // GL_VALIDATE_STATUS
-const GLenum kInfoLogLength = 0x8B84;          // GL_INFO_LOG_LENGTH
-const GLenum kActiveUniforms = 0x8B86;         // GL_ACTIVE_UNIFORMS
-const GLenum kActiveUniformMaxLength = 0x8B87; // GL_ACTIVE_UNIFORM_MAX_LENGTH
-const GLenum kCurrentProgram = 0x8B8D;         // GL_CURRENT_PROGRAM
+// The lines that this file's checks report; callers match on them. The
+// checked uniform setters report each its own line, and one of them a fixed one.
+const int kSupportLine = 48;
+const int kCreateLine = 50;
+const int kDeleteLine = 55;
+const int kAttachVertexLine = 80;
+const int kAttachFragmentLine = 89;
+const int kLinkLogLine = 182;
+const int kLinkNoLogLine = 186;
+const int kSoftwareLine = 204;
+const int kEnableLine = 255;
+const int kThreeBoolsByNameLine = 432;
+const int kActiveUniformCountLine = 597;
+const int kActiveUniformLine = 610;
+const int kMaxUniformLengthLine = 626;
 
 const char* const kMustBeEnabled = "Program must be enabled to set uniform parameter";
 // The three active-uniform queries share this text on purpose.
@@ -45,14 +54,15 @@ bool Program::isSupported()
 // that GL could not create the program (no current context, for one).
 Program::Program()
 {
-    ORU_VERIFY(Oru::OGL::ExtensionManager::Instance()->isSupported(OPEN_GL_2_0));
+    ORU_VERIFY_AT(kSupportLine, Oru::OGL::ExtensionManager::Instance()->isSupported(OPEN_GL_2_0));
     _hObject = _cgmCreateProgram();
-    ORU_VERIFY(_hObject != 0);
+    ORU_VERIFY_AT(kCreateLine, _hObject != 0);
+    ORU_CHECK_GL(Program);
 }
 
 Program::~Program() noexcept(false)
 {
-    ORU_VERIFY(_hObject != 0);
+    ORU_VERIFY_AT(kDeleteLine, _hObject != 0);
     _cgmDeleteProgram(_hObject);
 }
 
@@ -77,8 +87,9 @@ const int kTypedDetachPasses = 4;
 void Program::attach(VertexShader* shader)
 {
     if (!shader->isLoaded())
-        ORU_THROW("Vertex shader must be loaded before attaching");
+        ORU_THROW_AT(kAttachVertexLine, "Vertex shader must be loaded before attaching");
     _cgmAttachShader(_hObject, shader->objectID());
+    ORU_CHECK_GL(Program);
 }
 
 // The same for the fragment stage; the two stay separate members so that
@@ -86,19 +97,22 @@ void Program::attach(VertexShader* shader)
 void Program::attach(FragmentShader* shader)
 {
     if (!shader->isLoaded())
-        ORU_THROW("Fragment shader must be loaded before attaching");
+        ORU_THROW_AT(kAttachFragmentLine, "Fragment shader must be loaded before attaching");
     _cgmAttachShader(_hObject, shader->objectID());
+    ORU_CHECK_GL(Program);
 }
 
 // GL reports a shader that is not attached as its own error.
 void Program::detach(const VertexShader* shader)
 {
     _cgmDetachShader(_hObject, shader->objectID());
+    ORU_CHECK_GL(Program);
 }
 
 void Program::detach(const FragmentShader* shader)
 {
     _cgmDetachShader(_hObject, shader->objectID());
+    ORU_CHECK_GL(Program);
 }
 
 // Batch after batch until GL lists none; a deleted shader goes with its detach.
@@ -113,6 +127,7 @@ void Program::detachAllShaders()
             _cgmDetachShader(_hObject, names[i]);
         _cgmGetAttachedShaders(_hObject, kAttachedBatch, &count, names);
     }
+    ORU_CHECK_GL(Program);
 }
 
 namespace
@@ -132,7 +147,7 @@ void detachAllOfType(GLuint program, GLenum type)
         for (GLsizei i = 0; i < count; ++i)
         {
             GLint shaderType = 0;
-            _cgmGetShaderiv(names[i], kShaderType, &shaderType);
+            _cgmGetShaderiv(names[i], GL_SHADER_TYPE, &shaderType);
             if (static_cast<GLenum>(shaderType) == type)
                 _cgmDetachShader(program, names[i]);
         }
@@ -143,12 +158,14 @@ void detachAllOfType(GLuint program, GLenum type)
 
 void Program::detachAllVertexShaders()
 {
-    detachAllOfType(_hObject, kVertexShader);
+    detachAllOfType(_hObject, GL_VERTEX_SHADER);
+    ORU_CHECK_GL(Program);
 }
 
 void Program::detachAllFragmentShaders()
 {
-    detachAllOfType(_hObject, kFragmentShader);
+    detachAllOfType(_hObject, GL_FRAGMENT_SHADER);
+    ORU_CHECK_GL(Program);
 }
 
 // ---------------------------------------------------------------------------
@@ -171,6 +188,7 @@ std::string readLog(Program& program, int length)
 void Program::link(bool check)
 {
     _cgmLinkProgram(_hObject);
+    ORU_CHECK_GL(Program);
     if (!check)
         return;
     if (!isLinked())
@@ -179,11 +197,11 @@ void Program::link(bool check)
         if (length >= 2)
         {
             const std::string log = readLog(*this, length);
-            ORU_THROW("Program Link Error: \n" << log);
+            ORU_THROW_AT(kLinkLogLine, "Program Link Error: \n" << log);
         }
         // A driver that fails without a word: the caller still learns that
         // the link failed.
-        ORU_THROW("Unknown Program Link Error\n");
+        ORU_THROW_AT(kLinkNoLogLine, "Unknown Program Link Error\n");
     }
 
     // Linked. Some drivers link a program that their hardware cannot run and
@@ -201,7 +219,7 @@ void Program::link(bool check)
     const std::string log = readLog(*this, length);
     if (log.find("run in software") == std::string::npos)
         return;
-    ORU_THROW("Program Link Error(Falling to Software): \n" << log);
+    ORU_THROW_AT(kSoftwareLine, "Program Link Error(Falling to Software): \n" << log);
 }
 
 // Kept for derived programs that set uniforms right after a link; nothing in
@@ -214,7 +232,8 @@ void Program::postLinkInit()
 bool Program::isLinked() const
 {
     GLint status = 0;
-    _cgmGetProgramiv(_hObject, kLinkStatus, &status);
+    _cgmGetProgramiv(_hObject, GL_LINK_STATUS, &status);
+    ORU_CHECK_GL(Program);
     return status != 0;
 }
 
@@ -224,7 +243,8 @@ bool Program::validate() const
 {
     _cgmValidateProgram(_hObject);
     GLint status = 0;
-    _cgmGetProgramiv(_hObject, kValidateStatus, &status);
+    _cgmGetProgramiv(_hObject, GL_VALIDATE_STATUS, &status);
+    ORU_CHECK_GL(Program);
     return status != 0;
 }
 
@@ -232,7 +252,8 @@ bool Program::validate() const
 int Program::getInfoLogLength() const
 {
     GLint length = 0;
-    _cgmGetProgramiv(_hObject, kInfoLogLength, &length);
+    _cgmGetProgramiv(_hObject, GL_INFO_LOG_LENGTH, &length);
+    ORU_CHECK_GL(Program);
     return length;
 }
 
@@ -240,6 +261,7 @@ int Program::getInfoLogLength() const
 void Program::getInfoLog(int maxLength, char* buffer)
 {
     _cgmGetProgramInfoLog(_hObject, maxLength, nullptr, buffer);
+    ORU_CHECK_GL(Program);
 }
 
 // ---------------------------------------------------------------------------
@@ -252,14 +274,16 @@ void Program::getInfoLog(int maxLength, char* buffer)
 void Program::enable()
 {
     if (!isLinked())
-        ORU_THROW("Program must be linked before being enabled");
+        ORU_THROW_AT(kEnableLine, "Program must be linked before being enabled");
     _cgmUseProgram(_hObject);
+    ORU_CHECK_GL(Program);
 }
 
 // Back to the fixed-function pipeline, whichever program was current.
 void Program::disable()
 {
     _cgmUseProgram(0);
+    ORU_CHECK_GL(Program);
 }
 
 // Asked of GL each time: another wrapper or client code may have changed the
@@ -268,7 +292,8 @@ void Program::disable()
 bool Program::isEnabled() const
 {
     GLint current = 0;
-    glGetIntegerv(kCurrentProgram, &current);
+    glGetIntegerv(GL_CURRENT_PROGRAM, &current);
+    ORU_CHECK_GL(Program);
     return static_cast<GLuint>(current) == _hObject;
 }
 
@@ -317,8 +342,80 @@ void Program::loadFragmentShader(unsigned int count, const char** strings, int* 
 }
 
 // ---------------------------------------------------------------------------
-// Uniform setters whose values are converted: bool and unsigned char. The
-// setters that pass their values unchanged follow the active-uniform queries.
+// Locations and active uniforms, asked of GL every time: a relink may move
+// every uniform and attribute. The active-uniform queries refuse a program
+// whose last link failed rather than answer with an earlier link's leftovers.
+// ---------------------------------------------------------------------------
+
+int Program::getUniformLocation(const char* name) const
+{
+    const int location = _cgmGetUniformLocation(_hObject, name);
+    ORU_CHECK_GL(Program);
+    return location;
+}
+
+// Takes effect at the next link.
+void Program::setAttributeLocation(unsigned int index, const char* name)
+{
+    _cgmBindAttribLocation(_hObject, index, name);
+    ORU_CHECK_GL(Program);
+}
+
+int Program::getAttributeLocation(const char* name)
+{
+    const int location = _cgmGetAttribLocation(_hObject, name);
+    ORU_CHECK_GL(Program);
+    return location;
+}
+
+unsigned int Program::getActiveUniformCount() const
+{
+    if (!isLinked())
+        ORU_THROW_AT(kActiveUniformCountLine, kMustBeLinked);
+    GLint count = 0;
+    _cgmGetProgramiv(_hObject, GL_ACTIVE_UNIFORMS, &count);
+    ORU_CHECK_GL(Program);
+    return static_cast<unsigned int>(count);
+}
+
+// Index runs from 0 to getActiveUniformCount() - 1. size is the number of
+// elements of an array uniform (1 otherwise), type its GL type such as
+// GL_FLOAT_VEC3 or GL_SAMPLER_2D. The name is NUL-terminated within bufSize;
+// its length is not passed on.
+void Program::getActiveUniform(unsigned int index, int bufSize, int* size, unsigned int* type, char* name) const
+{
+    if (!isLinked())
+        ORU_THROW_AT(kActiveUniformLine, kMustBeLinked);
+    _cgmGetActiveUniform(_hObject, index, bufSize, nullptr, size, type, name);
+    ORU_CHECK_GL(Program);
+}
+
+// The longest active uniform name with its NUL: a buffer of this size holds
+// every name getActiveUniform() gives. Listing the uniforms of a program:
+//
+//     std::vector<char> name(program.getMaxUniformStringLength());
+//     for (unsigned int i = 0; i < program.getActiveUniformCount(); ++i)
+//     {
+//         int size = 0; unsigned int type = 0;
+//         program.getActiveUniform(i, int(name.size()), &size, &type, name.data());
+//     }
+int Program::getMaxUniformStringLength() const
+{
+    if (!isLinked())
+        ORU_THROW_AT(kMaxUniformLengthLine, kMustBeLinked);
+    GLint length = 0;
+    _cgmGetProgramiv(_hObject, GL_ACTIVE_UNIFORM_MAX_LENGTH, &length);
+    ORU_CHECK_GL(Program);
+    return length;
+}
+
+// A hook for checking a uniform's type before setting it; nothing is checked.
+void Program::assertActiveUniformType(int /*location*/, unsigned int /*type*/, unsigned int /*count*/) const
+{
+}
+
+// ---------------------------------------------------------------------------
+// Uniform setters.
 //
 // Why the check: glUniform* acts on the current program, not on this one; a
 // setter called while another program is current would silently change that
@@ -343,928 +440,279 @@ void Program::loadFragmentShader(unsigned int count, const char** strings, int* 
 //     for (each frame)
 //         program.setUniform_Unsafe(tint, r, g, b);
 //
-// Deliberate irregularities, kept because callers rely on them:
-//   - the by-name matrix members have no check of their own: they look the
-//     location up and leave the check to the by-location member;
-//   - the checked by-name array members do not check at all;
-//   - the unchecked array members skip -1 only by location and only for int
-//     values; by name they always call GL;
-//   - setUniform4 with float values uploads vec3 triples (glUniform3fv).
+// Each member below is one line over the core that follows; a checked member
+// passes its own line, which its refusal reports. The by-name matrix members
+// have no check of their own: they look the location up and leave the check
+// to the by-location member. The array setters keep further irregularities,
+// all in the table before them.
 // ---------------------------------------------------------------------------
 
 namespace
 {
 
-// GLSL bool uniforms (and int ones) take 0 or 1 through glUniform*i.
-GLint zeroOrOne(bool value)
+// GLSL bool and int uniforms take GLint: a bool as 0 or 1, an unsigned char
+// zero-extended (200 stays 200, never normalised, never sign-extended).
+GLint glValue(bool value) { return value ? 1 : 0; }
+GLint glValue(unsigned char value) { return static_cast<GLint>(value); }
+GLint glValue(int value) { return value; }
+GLfloat glValue(float value) { return value; }
+
+void upload(GLint l, GLint x) { _cgmUniform1i(l, x); }
+void upload(GLint l, GLint x, GLint y) { _cgmUniform2i(l, x, y); }
+void upload(GLint l, GLint x, GLint y, GLint z) { _cgmUniform3i(l, x, y, z); }
+void upload(GLint l, GLint x, GLint y, GLint z, GLint w) { _cgmUniform4i(l, x, y, z, w); }
+void upload(GLint l, GLfloat x) { _cgmUniform1f(l, x); }
+void upload(GLint l, GLfloat x, GLfloat y) { _cgmUniform2f(l, x, y); }
+void upload(GLint l, GLfloat x, GLfloat y, GLfloat z) { _cgmUniform3f(l, x, y, z); }
+void upload(GLint l, GLfloat x, GLfloat y, GLfloat z, GLfloat w) { _cgmUniform4f(l, x, y, z, w); }
+
+void requireEnabled(Program const& program, int line)
 {
-    return value ? 1 : 0;
+    if (!program.isEnabled())
+        detail::raiseInternal(__FILE__, line, kMustBeEnabled);
 }
 
-// 200 stays 200: never normalised to [0, 1], never sign-extended as a char.
-GLint zeroExtended(unsigned char value)
+// The flavours, over an upload to a location.
+// member names the setter for the GL error check of checked wrappers.
+template <class Upload>
+void checked(Program const& program, int line, char const* member, GLint location, Upload upload)
 {
-    return static_cast<GLint>(value);
+    requireEnabled(program, line);
+    upload(location);
+    WrapperCheck::after(__FILE__, __LINE__, "Program", member);
+}
+
+template <class Upload>
+void checkedByName(Program const& program, int line, char const* member, const char* name, Upload upload)
+{
+    requireEnabled(program, line);
+    checked(program, line, member, program.getUniformLocation(name), upload);
+}
+
+template <class Upload>
+void unchecked(char const* member, GLint location, Upload upload)
+{
+    if (location == Program::nUnknownLocation)
+        return;
+    upload(location);
+    WrapperCheck::after(__FILE__, __LINE__, "Program", member);
+}
+
+// Uploads of one to four values, converted for GL.
+template <class... V>
+auto values(V... v)
+{
+    return [=](GLint location) { upload(location, glValue(v)...); };
+}
+
+// Uploads of count matrices through one of the glUniformMatrix*fv pointers,
+// read at the call (a test may have replaced it).
+auto matrices(PFN_cgmUniformMatrix2fv const* entry, int count, const float* values, unsigned char transpose)
+{
+    return [=](GLint location) { (*entry)(location, count, transpose, values); };
+}
+
+// The array setters. What callers rely on, kept here on purpose:
+//
+//   member         int* values     float* values
+//   setUniform     glUniform1iv    glUniform1fv
+//   setUniform2    glUniform2iv    glUniform2fv
+//   setUniform3    glUniform3iv    glUniform3fv
+//   setUniform4    glUniform4iv    glUniform3fv  (vec3 triples, not vec4)
+//
+//   flavour                 checks enabled   skips location -1
+//   checked by location     yes              no (GL ignores it)
+//   checked by name         no               no
+//   unchecked by location   no               with int* values only
+//   unchecked by name       no               no
+struct ArrayCalls
+{
+    PFN_cgmUniform1iv const* ints;
+    PFN_cgmUniform1fv const* floats;
+};
+const ArrayCalls kArrayCalls[] = {
+    { &_cgmUniform1iv, &_cgmUniform1fv },
+    { &_cgmUniform2iv, &_cgmUniform2fv },
+    { &_cgmUniform3iv, &_cgmUniform3fv },
+    { &_cgmUniform4iv, &_cgmUniform3fv },
+};
+
+struct ArrayFlavour
+{
+    bool checksEnabled;
+    bool skipsUnknownInts;
+};
+const ArrayFlavour kCheckedArray = { true, false };
+const ArrayFlavour kCheckedArrayByName = { false, false };
+const ArrayFlavour kUncheckedArray = { false, true };
+const ArrayFlavour kUncheckedArrayByName = { false, false };
+
+bool skipsUnknown(ArrayFlavour const& flavour, GLint const*) { return flavour.skipsUnknownInts; }
+bool skipsUnknown(ArrayFlavour const&, GLfloat const*) { return false; }
+
+PFN_cgmUniform1iv const* arrayCall(int components, int*) { return kArrayCalls[components - 1].ints; }
+PFN_cgmUniform1fv const* arrayCall(int components, float*) { return kArrayCalls[components - 1].floats; }
+
+template <class T>
+void setArray(Program const& program, ArrayFlavour const& flavour, char const* member, int line, GLint location,
+              int components, int count, T* values)
+{
+    if (flavour.checksEnabled)
+        requireEnabled(program, line);
+    if (location == Program::nUnknownLocation && skipsUnknown(flavour, values))
+        return;
+    (*arrayCall(components, values))(location, count, values);
+    WrapperCheck::after(__FILE__, __LINE__, "Program", member);
 }
 
 } // namespace
 
-void Program::setUniform(int location, bool x)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform1i(location, zeroOrOne(x));
-}
-
-void Program::setUniform(const char* name, bool x)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x);
-}
-
-void Program::setUniform_Unsafe(int location, bool x)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform1i(location, zeroOrOne(x));
-}
-
-void Program::setUniform_Unsafe(const char* name, bool x)
-{
-    setUniform_Unsafe(getUniformLocation(name), x);
-}
-
-void Program::setUniform(int location, bool x, bool y)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform2i(location, zeroOrOne(x), zeroOrOne(y));
-}
-
-void Program::setUniform(const char* name, bool x, bool y)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x, y);
-}
-
-void Program::setUniform_Unsafe(int location, bool x, bool y)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform2i(location, zeroOrOne(x), zeroOrOne(y));
-}
-
-void Program::setUniform_Unsafe(const char* name, bool x, bool y)
-{
-    setUniform_Unsafe(getUniformLocation(name), x, y);
-}
-
-void Program::setUniform(int location, bool x, bool y, bool z)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform3i(location, zeroOrOne(x), zeroOrOne(y), zeroOrOne(z));
-}
-
-void Program::setUniform(const char* name, bool x, bool y, bool z)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x, y, z);
-}
-
-void Program::setUniform_Unsafe(int location, bool x, bool y, bool z)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform3i(location, zeroOrOne(x), zeroOrOne(y), zeroOrOne(z));
-}
-
-void Program::setUniform_Unsafe(const char* name, bool x, bool y, bool z)
-{
-    setUniform_Unsafe(getUniformLocation(name), x, y, z);
-}
-
-void Program::setUniform(int location, bool x, bool y, bool z, bool w)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform4i(location, zeroOrOne(x), zeroOrOne(y), zeroOrOne(z), zeroOrOne(w));
-}
-
-void Program::setUniform(const char* name, bool x, bool y, bool z, bool w)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x, y, z, w);
-}
-
-void Program::setUniform_Unsafe(int location, bool x, bool y, bool z, bool w)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform4i(location, zeroOrOne(x), zeroOrOne(y), zeroOrOne(z), zeroOrOne(w));
-}
-
-void Program::setUniform_Unsafe(const char* name, bool x, bool y, bool z, bool w)
-{
-    setUniform_Unsafe(getUniformLocation(name), x, y, z, w);
-}
-
-void Program::setUniform(int location, unsigned char x)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform1i(location, zeroExtended(x));
-}
-
-void Program::setUniform(const char* name, unsigned char x)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x);
-}
-
-void Program::setUniform_Unsafe(int location, unsigned char x)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform1i(location, zeroExtended(x));
-}
-
-void Program::setUniform_Unsafe(const char* name, unsigned char x)
-{
-    setUniform_Unsafe(getUniformLocation(name), x);
-}
-
-void Program::setUniform(int location, unsigned char x, unsigned char y)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform2i(location, zeroExtended(x), zeroExtended(y));
-}
-
-void Program::setUniform(const char* name, unsigned char x, unsigned char y)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x, y);
-}
-
-void Program::setUniform_Unsafe(int location, unsigned char x, unsigned char y)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform2i(location, zeroExtended(x), zeroExtended(y));
-}
-
-void Program::setUniform_Unsafe(const char* name, unsigned char x, unsigned char y)
-{
-    setUniform_Unsafe(getUniformLocation(name), x, y);
-}
-
-void Program::setUniform(int location, unsigned char x, unsigned char y, unsigned char z)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform3i(location, zeroExtended(x), zeroExtended(y), zeroExtended(z));
-}
-
-void Program::setUniform(const char* name, unsigned char x, unsigned char y, unsigned char z)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x, y, z);
-}
-
-void Program::setUniform_Unsafe(int location, unsigned char x, unsigned char y, unsigned char z)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform3i(location, zeroExtended(x), zeroExtended(y), zeroExtended(z));
-}
-
-void Program::setUniform_Unsafe(const char* name, unsigned char x, unsigned char y, unsigned char z)
-{
-    setUniform_Unsafe(getUniformLocation(name), x, y, z);
-}
-
-void Program::setUniform(int location, unsigned char x, unsigned char y, unsigned char z, unsigned char w)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform4i(location, zeroExtended(x), zeroExtended(y), zeroExtended(z), zeroExtended(w));
-}
-
-void Program::setUniform(const char* name, unsigned char x, unsigned char y, unsigned char z, unsigned char w)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x, y, z, w);
-}
-
-void Program::setUniform_Unsafe(int location, unsigned char x, unsigned char y, unsigned char z, unsigned char w)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform4i(location, zeroExtended(x), zeroExtended(y), zeroExtended(z), zeroExtended(w));
-}
-
-void Program::setUniform_Unsafe(const char* name, unsigned char x, unsigned char y, unsigned char z, unsigned char w)
-{
-    setUniform_Unsafe(getUniformLocation(name), x, y, z, w);
-}
-
-// ---------------------------------------------------------------------------
-// Locations and active uniforms, asked of GL every time: a relink may move
-// every uniform and attribute. The active-uniform queries refuse a program
-// whose last link failed rather than answer with an earlier link's leftovers.
-// ---------------------------------------------------------------------------
-
-int Program::getUniformLocation(const char* name) const
-{
-    return _cgmGetUniformLocation(_hObject, name);
-}
-
-// Takes effect at the next link.
-void Program::setAttributeLocation(unsigned int index, const char* name)
-{
-    _cgmBindAttribLocation(_hObject, index, name);
-}
-
-int Program::getAttributeLocation(const char* name)
-{
-    return _cgmGetAttribLocation(_hObject, name);
-}
-
-unsigned int Program::getActiveUniformCount() const
-{
-    if (!isLinked())
-        ORU_THROW(kMustBeLinked);
-    GLint count = 0;
-    _cgmGetProgramiv(_hObject, kActiveUniforms, &count);
-    return static_cast<unsigned int>(count);
-}
-
-// Index runs from 0 to getActiveUniformCount() - 1. size is the number of
-// elements of an array uniform (1 otherwise), type its GL type such as
-// GL_FLOAT_VEC3 or GL_SAMPLER_2D. The name is NUL-terminated within bufSize;
-// its length is not passed on.
-void Program::getActiveUniform(unsigned int index, int bufSize, int* size, unsigned int* type, char* name) const
-{
-    if (!isLinked())
-        ORU_THROW(kMustBeLinked);
-    _cgmGetActiveUniform(_hObject, index, bufSize, nullptr, size, type, name);
-}
-
-// The longest active uniform name with its NUL: a buffer of this size holds
-// every name getActiveUniform() gives. Listing the uniforms of a program:
-//
-//     std::vector<char> name(program.getMaxUniformStringLength());
-//     for (unsigned int i = 0; i < program.getActiveUniformCount(); ++i)
-//     {
-//         int size = 0; unsigned int type = 0;
-//         program.getActiveUniform(i, int(name.size()), &size, &type, name.data());
-//     }
-int Program::getMaxUniformStringLength() const
-{
-    if (!isLinked())
-        ORU_THROW(kMustBeLinked);
-    GLint length = 0;
-    _cgmGetProgramiv(_hObject, kActiveUniformMaxLength, &length);
-    return length;
-}
-
-// A hook for checking a uniform's type before setting it; nothing is checked.
-void Program::assertActiveUniformType(int /*location*/, unsigned int /*type*/, unsigned int /*count*/) const
-{
-}
-
-// ---------------------------------------------------------------------------
-// Uniform setters passing their values unchanged: int, float, samplers,
-// matrices and arrays, in the four flavours told above.
-// ---------------------------------------------------------------------------
-
-// int.
-
-void Program::setUniform(int location, int x)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform1i(location, x);
-}
-
-void Program::setUniform(const char* name, int x)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x);
-}
-
-void Program::setUniform_Unsafe(int location, int x)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform1i(location, x);
-}
-
-void Program::setUniform_Unsafe(const char* name, int x)
-{
-    setUniform_Unsafe(getUniformLocation(name), x);
-}
-
-void Program::setUniform(int location, int x, int y)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform2i(location, x, y);
-}
-
-void Program::setUniform(const char* name, int x, int y)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x, y);
-}
-
-void Program::setUniform_Unsafe(int location, int x, int y)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform2i(location, x, y);
-}
-
-void Program::setUniform_Unsafe(const char* name, int x, int y)
-{
-    setUniform_Unsafe(getUniformLocation(name), x, y);
-}
-
-void Program::setUniform(int location, int x, int y, int z)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform3i(location, x, y, z);
-}
-
-void Program::setUniform(const char* name, int x, int y, int z)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x, y, z);
-}
-
-void Program::setUniform_Unsafe(int location, int x, int y, int z)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform3i(location, x, y, z);
-}
-
-void Program::setUniform_Unsafe(const char* name, int x, int y, int z)
-{
-    setUniform_Unsafe(getUniformLocation(name), x, y, z);
-}
-
-void Program::setUniform(int location, int x, int y, int z, int w)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform4i(location, x, y, z, w);
-}
-
-void Program::setUniform(const char* name, int x, int y, int z, int w)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x, y, z, w);
-}
-
-void Program::setUniform_Unsafe(int location, int x, int y, int z, int w)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform4i(location, x, y, z, w);
-}
-
-void Program::setUniform_Unsafe(const char* name, int x, int y, int z, int w)
-{
-    setUniform_Unsafe(getUniformLocation(name), x, y, z, w);
-}
-
-// float.
-
-void Program::setUniform(int location, float x)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform1f(location, x);
-}
-
-void Program::setUniform(const char* name, float x)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x);
-}
-
-void Program::setUniform_Unsafe(int location, float x)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform1f(location, x);
-}
-
-void Program::setUniform_Unsafe(const char* name, float x)
-{
-    setUniform_Unsafe(getUniformLocation(name), x);
-}
-
-void Program::setUniform(int location, float x, float y)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform2f(location, x, y);
-}
-
-void Program::setUniform(const char* name, float x, float y)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x, y);
-}
-
-void Program::setUniform_Unsafe(int location, float x, float y)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform2f(location, x, y);
-}
-
-void Program::setUniform_Unsafe(const char* name, float x, float y)
-{
-    setUniform_Unsafe(getUniformLocation(name), x, y);
-}
-
-void Program::setUniform(int location, float x, float y, float z)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform3f(location, x, y, z);
-}
-
-void Program::setUniform(const char* name, float x, float y, float z)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x, y, z);
-}
-
-void Program::setUniform_Unsafe(int location, float x, float y, float z)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform3f(location, x, y, z);
-}
-
-void Program::setUniform_Unsafe(const char* name, float x, float y, float z)
-{
-    setUniform_Unsafe(getUniformLocation(name), x, y, z);
-}
-
-void Program::setUniform(int location, float x, float y, float z, float w)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform4f(location, x, y, z, w);
-}
-
-void Program::setUniform(const char* name, float x, float y, float z, float w)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniform(getUniformLocation(name), x, y, z, w);
-}
-
-void Program::setUniform_Unsafe(int location, float x, float y, float z, float w)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform4f(location, x, y, z, w);
-}
-
-void Program::setUniform_Unsafe(const char* name, float x, float y, float z, float w)
-{
-    setUniform_Unsafe(getUniformLocation(name), x, y, z, w);
-}
-
-// Samplers: the number of the texture unit, whatever the sampler's kind.
-
-void Program::setUniformSampler1D(int location, int unit)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform1i(location, unit);
-}
-
-void Program::setUniformSampler1D(const char* name, int unit)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniformSampler1D(getUniformLocation(name), unit);
-}
-
-void Program::setUniformSampler1D_Unsafe(int location, int unit)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform1i(location, unit);
-}
-
-void Program::setUniformSampler1D_Unsafe(const char* name, int unit)
-{
-    setUniformSampler1D_Unsafe(getUniformLocation(name), unit);
-}
-
-void Program::setUniformSampler2D(int location, int unit)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform1i(location, unit);
-}
-
-void Program::setUniformSampler2D(const char* name, int unit)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniformSampler2D(getUniformLocation(name), unit);
-}
-
-void Program::setUniformSampler2D_Unsafe(int location, int unit)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform1i(location, unit);
-}
-
-void Program::setUniformSampler2D_Unsafe(const char* name, int unit)
-{
-    setUniformSampler2D_Unsafe(getUniformLocation(name), unit);
-}
-
-void Program::setUniformSampler3D(int location, int unit)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform1i(location, unit);
-}
-
-void Program::setUniformSampler3D(const char* name, int unit)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniformSampler3D(getUniformLocation(name), unit);
-}
-
-void Program::setUniformSampler3D_Unsafe(int location, int unit)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform1i(location, unit);
-}
-
-void Program::setUniformSampler3D_Unsafe(const char* name, int unit)
-{
-    setUniformSampler3D_Unsafe(getUniformLocation(name), unit);
-}
-
-void Program::setUniformSampler2DRECT(int location, int unit)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform1i(location, unit);
-}
-
-void Program::setUniformSampler2DRECT(const char* name, int unit)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    setUniformSampler2DRECT(getUniformLocation(name), unit);
-}
-
-void Program::setUniformSampler2DRECT_Unsafe(int location, int unit)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform1i(location, unit);
-}
-
-void Program::setUniformSampler2DRECT_Unsafe(const char* name, int unit)
-{
-    setUniformSampler2DRECT_Unsafe(getUniformLocation(name), unit);
-}
-
-// Matrices. The by-name members look the location up first and leave the
-// check to the by-location member; one matrix is an array of one.
-
-void Program::setUniformMatrices2(int location, int count, const float* values, unsigned char transpose)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniformMatrix2fv(location, count, transpose, values);
-}
-
-void Program::setUniformMatrices2(const char* name, int count, const float* values, unsigned char transpose)
-{
-    setUniformMatrices2(getUniformLocation(name), count, values, transpose);
-}
-
-void Program::setUniformMatrices2_Unsafe(int location, int count, const float* values, unsigned char transpose)
-{
-    if (location != nUnknownLocation)
-        _cgmUniformMatrix2fv(location, count, transpose, values);
-}
-
-void Program::setUniformMatrices2_Unsafe(const char* name, int count, const float* values, unsigned char transpose)
-{
-    setUniformMatrices2_Unsafe(getUniformLocation(name), count, values, transpose);
-}
-
-void Program::setUniformMatrices3(int location, int count, const float* values, unsigned char transpose)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniformMatrix3fv(location, count, transpose, values);
-}
-
-void Program::setUniformMatrices3(const char* name, int count, const float* values, unsigned char transpose)
-{
-    setUniformMatrices3(getUniformLocation(name), count, values, transpose);
-}
-
-void Program::setUniformMatrices3_Unsafe(int location, int count, const float* values, unsigned char transpose)
-{
-    if (location != nUnknownLocation)
-        _cgmUniformMatrix3fv(location, count, transpose, values);
-}
-
-void Program::setUniformMatrices3_Unsafe(const char* name, int count, const float* values, unsigned char transpose)
-{
-    setUniformMatrices3_Unsafe(getUniformLocation(name), count, values, transpose);
-}
-
-void Program::setUniformMatrices4(int location, int count, const float* values, unsigned char transpose)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniformMatrix4fv(location, count, transpose, values);
-}
-
-void Program::setUniformMatrices4(const char* name, int count, const float* values, unsigned char transpose)
-{
-    setUniformMatrices4(getUniformLocation(name), count, values, transpose);
-}
-
-void Program::setUniformMatrices4_Unsafe(int location, int count, const float* values, unsigned char transpose)
-{
-    if (location != nUnknownLocation)
-        _cgmUniformMatrix4fv(location, count, transpose, values);
-}
-
-void Program::setUniformMatrices4_Unsafe(const char* name, int count, const float* values, unsigned char transpose)
-{
-    setUniformMatrices4_Unsafe(getUniformLocation(name), count, values, transpose);
-}
-
-void Program::setUniformMatrix2(int location, const float* values, unsigned char transpose)
-{
-    setUniformMatrices2(location, 1, values, transpose);
-}
-
-void Program::setUniformMatrix2(const char* name, const float* values, unsigned char transpose)
-{
-    setUniformMatrices2(getUniformLocation(name), 1, values, transpose);
-}
-
-void Program::setUniformMatrix2_Unsafe(int location, const float* values, unsigned char transpose)
-{
-    setUniformMatrices2_Unsafe(location, 1, values, transpose);
-}
-
-void Program::setUniformMatrix2_Unsafe(const char* name, const float* values, unsigned char transpose)
-{
-    setUniformMatrices2_Unsafe(getUniformLocation(name), 1, values, transpose);
-}
-
-void Program::setUniformMatrix3(int location, const float* values, unsigned char transpose)
-{
-    setUniformMatrices3(location, 1, values, transpose);
-}
-
-void Program::setUniformMatrix3(const char* name, const float* values, unsigned char transpose)
-{
-    setUniformMatrices3(getUniformLocation(name), 1, values, transpose);
-}
-
-void Program::setUniformMatrix3_Unsafe(int location, const float* values, unsigned char transpose)
-{
-    setUniformMatrices3_Unsafe(location, 1, values, transpose);
-}
-
-void Program::setUniformMatrix3_Unsafe(const char* name, const float* values, unsigned char transpose)
-{
-    setUniformMatrices3_Unsafe(getUniformLocation(name), 1, values, transpose);
-}
-
-void Program::setUniformMatrix4(int location, const float* values, unsigned char transpose)
-{
-    setUniformMatrices4(location, 1, values, transpose);
-}
-
-void Program::setUniformMatrix4(const char* name, const float* values, unsigned char transpose)
-{
-    setUniformMatrices4(getUniformLocation(name), 1, values, transpose);
-}
-
-void Program::setUniformMatrix4_Unsafe(int location, const float* values, unsigned char transpose)
-{
-    setUniformMatrices4_Unsafe(location, 1, values, transpose);
-}
-
-void Program::setUniformMatrix4_Unsafe(const char* name, const float* values, unsigned char transpose)
-{
-    setUniformMatrices4_Unsafe(getUniformLocation(name), 1, values, transpose);
-}
-
-// Arrays of int. By name: no check, and GL is called with whatever location
-// the look-up gave.
-
-void Program::setUniform(int location, int count, int* values)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform1iv(location, count, values);
-}
-
-void Program::setUniform(const char* name, int count, int* values)
-{
-    _cgmUniform1iv(getUniformLocation(name), count, values);
-}
-
-void Program::setUniform_Unsafe(int location, int count, int* values)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform1iv(location, count, values);
-}
-
-void Program::setUniform_Unsafe(const char* name, int count, int* values)
-{
-    _cgmUniform1iv(getUniformLocation(name), count, values);
-}
-
-void Program::setUniform2(int location, int count, int* values)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform2iv(location, count, values);
-}
-
-void Program::setUniform2(const char* name, int count, int* values)
-{
-    _cgmUniform2iv(getUniformLocation(name), count, values);
-}
-
-void Program::setUniform2_Unsafe(int location, int count, int* values)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform2iv(location, count, values);
-}
-
-void Program::setUniform2_Unsafe(const char* name, int count, int* values)
-{
-    _cgmUniform2iv(getUniformLocation(name), count, values);
-}
-
-void Program::setUniform3(int location, int count, int* values)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform3iv(location, count, values);
-}
-
-void Program::setUniform3(const char* name, int count, int* values)
-{
-    _cgmUniform3iv(getUniformLocation(name), count, values);
-}
-
-void Program::setUniform3_Unsafe(int location, int count, int* values)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform3iv(location, count, values);
-}
-
-void Program::setUniform3_Unsafe(const char* name, int count, int* values)
-{
-    _cgmUniform3iv(getUniformLocation(name), count, values);
-}
-
-void Program::setUniform4(int location, int count, int* values)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform4iv(location, count, values);
-}
-
-void Program::setUniform4(const char* name, int count, int* values)
-{
-    _cgmUniform4iv(getUniformLocation(name), count, values);
-}
-
-void Program::setUniform4_Unsafe(int location, int count, int* values)
-{
-    if (location != nUnknownLocation)
-        _cgmUniform4iv(location, count, values);
-}
-
-void Program::setUniform4_Unsafe(const char* name, int count, int* values)
-{
-    _cgmUniform4iv(getUniformLocation(name), count, values);
-}
-
-// Arrays of float. As for int, and the unchecked by-location members do not
-// skip -1 either (GL ignores it).
-
-void Program::setUniform(int location, int count, float* values)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform1fv(location, count, values);
-}
-
-void Program::setUniform(const char* name, int count, float* values)
-{
-    _cgmUniform1fv(getUniformLocation(name), count, values);
-}
-
-void Program::setUniform_Unsafe(int location, int count, float* values)
-{
-    _cgmUniform1fv(location, count, values);
-}
-
-void Program::setUniform_Unsafe(const char* name, int count, float* values)
-{
-    _cgmUniform1fv(getUniformLocation(name), count, values);
-}
-
-void Program::setUniform2(int location, int count, float* values)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform2fv(location, count, values);
-}
-
-void Program::setUniform2(const char* name, int count, float* values)
-{
-    _cgmUniform2fv(getUniformLocation(name), count, values);
-}
-
-void Program::setUniform2_Unsafe(int location, int count, float* values)
-{
-    _cgmUniform2fv(location, count, values);
-}
-
-void Program::setUniform2_Unsafe(const char* name, int count, float* values)
-{
-    _cgmUniform2fv(getUniformLocation(name), count, values);
-}
-
-void Program::setUniform3(int location, int count, float* values)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform3fv(location, count, values);
-}
-
-void Program::setUniform3(const char* name, int count, float* values)
-{
-    _cgmUniform3fv(getUniformLocation(name), count, values);
-}
-
-void Program::setUniform3_Unsafe(int location, int count, float* values)
-{
-    _cgmUniform3fv(location, count, values);
-}
-
-void Program::setUniform3_Unsafe(const char* name, int count, float* values)
-{
-    _cgmUniform3fv(getUniformLocation(name), count, values);
-}
-
-// setUniform4 with floats uploads count vec3 values, not vec4: programs
-// written against it declare vec3 arrays and pass packed triples.
-
-void Program::setUniform4(int location, int count, float* values)
-{
-    if (!isEnabled())
-        ORU_THROW(kMustBeEnabled);
-    _cgmUniform3fv(location, count, values);
-}
-
-void Program::setUniform4(const char* name, int count, float* values)
-{
-    _cgmUniform3fv(getUniformLocation(name), count, values);
-}
-
-void Program::setUniform4_Unsafe(int location, int count, float* values)
-{
-    _cgmUniform3fv(location, count, values);
-}
-
-void Program::setUniform4_Unsafe(const char* name, int count, float* values)
-{
-    _cgmUniform3fv(getUniformLocation(name), count, values);
-}
+// clang-format off
+void Program::setUniform(int l, bool x) { checked(*this, __LINE__, __func__, l, values(x)); }
+void Program::setUniform(const char* n, bool x) { checkedByName(*this, __LINE__, __func__, n, values(x)); }
+void Program::setUniform_Unsafe(int l, bool x) { unchecked(__func__, l, values(x)); }
+void Program::setUniform_Unsafe(const char* n, bool x) { unchecked(__func__, getUniformLocation(n), values(x)); }
+void Program::setUniform(int l, bool x, bool y) { checked(*this, __LINE__, __func__, l, values(x, y)); }
+void Program::setUniform(const char* n, bool x, bool y) { checkedByName(*this, __LINE__, __func__, n, values(x, y)); }
+void Program::setUniform_Unsafe(int l, bool x, bool y) { unchecked(__func__, l, values(x, y)); }
+void Program::setUniform_Unsafe(const char* n, bool x, bool y) { unchecked(__func__, getUniformLocation(n), values(x, y)); }
+void Program::setUniform(int l, bool x, bool y, bool z) { checked(*this, __LINE__, __func__, l, values(x, y, z)); }
+void Program::setUniform(const char* n, bool x, bool y, bool z) { checkedByName(*this, kThreeBoolsByNameLine, __func__, n, values(x, y, z)); }
+void Program::setUniform_Unsafe(int l, bool x, bool y, bool z) { unchecked(__func__, l, values(x, y, z)); }
+void Program::setUniform_Unsafe(const char* n, bool x, bool y, bool z) { unchecked(__func__, getUniformLocation(n), values(x, y, z)); }
+void Program::setUniform(int l, bool x, bool y, bool z, bool w) { checked(*this, __LINE__, __func__, l, values(x, y, z, w)); }
+void Program::setUniform(const char* n, bool x, bool y, bool z, bool w) { checkedByName(*this, __LINE__, __func__, n, values(x, y, z, w)); }
+void Program::setUniform_Unsafe(int l, bool x, bool y, bool z, bool w) { unchecked(__func__, l, values(x, y, z, w)); }
+void Program::setUniform_Unsafe(const char* n, bool x, bool y, bool z, bool w) { unchecked(__func__, getUniformLocation(n), values(x, y, z, w)); }
+
+void Program::setUniform(int l, unsigned char x) { checked(*this, __LINE__, __func__, l, values(x)); }
+void Program::setUniform(const char* n, unsigned char x) { checkedByName(*this, __LINE__, __func__, n, values(x)); }
+void Program::setUniform_Unsafe(int l, unsigned char x) { unchecked(__func__, l, values(x)); }
+void Program::setUniform_Unsafe(const char* n, unsigned char x) { unchecked(__func__, getUniformLocation(n), values(x)); }
+void Program::setUniform(int l, unsigned char x, unsigned char y) { checked(*this, __LINE__, __func__, l, values(x, y)); }
+void Program::setUniform(const char* n, unsigned char x, unsigned char y) { checkedByName(*this, __LINE__, __func__, n, values(x, y)); }
+void Program::setUniform_Unsafe(int l, unsigned char x, unsigned char y) { unchecked(__func__, l, values(x, y)); }
+void Program::setUniform_Unsafe(const char* n, unsigned char x, unsigned char y) { unchecked(__func__, getUniformLocation(n), values(x, y)); }
+void Program::setUniform(int l, unsigned char x, unsigned char y, unsigned char z) { checked(*this, __LINE__, __func__, l, values(x, y, z)); }
+void Program::setUniform(const char* n, unsigned char x, unsigned char y, unsigned char z) { checkedByName(*this, __LINE__, __func__, n, values(x, y, z)); }
+void Program::setUniform_Unsafe(int l, unsigned char x, unsigned char y, unsigned char z) { unchecked(__func__, l, values(x, y, z)); }
+void Program::setUniform_Unsafe(const char* n, unsigned char x, unsigned char y, unsigned char z) { unchecked(__func__, getUniformLocation(n), values(x, y, z)); }
+void Program::setUniform(int l, unsigned char x, unsigned char y, unsigned char z, unsigned char w) { checked(*this, __LINE__, __func__, l, values(x, y, z, w)); }
+void Program::setUniform(const char* n, unsigned char x, unsigned char y, unsigned char z, unsigned char w) { checkedByName(*this, __LINE__, __func__, n, values(x, y, z, w)); }
+void Program::setUniform_Unsafe(int l, unsigned char x, unsigned char y, unsigned char z, unsigned char w) { unchecked(__func__, l, values(x, y, z, w)); }
+void Program::setUniform_Unsafe(const char* n, unsigned char x, unsigned char y, unsigned char z, unsigned char w) { unchecked(__func__, getUniformLocation(n), values(x, y, z, w)); }
+
+void Program::setUniform(int l, int x) { checked(*this, __LINE__, __func__, l, values(x)); }
+void Program::setUniform(const char* n, int x) { checkedByName(*this, __LINE__, __func__, n, values(x)); }
+void Program::setUniform_Unsafe(int l, int x) { unchecked(__func__, l, values(x)); }
+void Program::setUniform_Unsafe(const char* n, int x) { unchecked(__func__, getUniformLocation(n), values(x)); }
+void Program::setUniform(int l, int x, int y) { checked(*this, __LINE__, __func__, l, values(x, y)); }
+void Program::setUniform(const char* n, int x, int y) { checkedByName(*this, __LINE__, __func__, n, values(x, y)); }
+void Program::setUniform_Unsafe(int l, int x, int y) { unchecked(__func__, l, values(x, y)); }
+void Program::setUniform_Unsafe(const char* n, int x, int y) { unchecked(__func__, getUniformLocation(n), values(x, y)); }
+void Program::setUniform(int l, int x, int y, int z) { checked(*this, __LINE__, __func__, l, values(x, y, z)); }
+void Program::setUniform(const char* n, int x, int y, int z) { checkedByName(*this, __LINE__, __func__, n, values(x, y, z)); }
+void Program::setUniform_Unsafe(int l, int x, int y, int z) { unchecked(__func__, l, values(x, y, z)); }
+void Program::setUniform_Unsafe(const char* n, int x, int y, int z) { unchecked(__func__, getUniformLocation(n), values(x, y, z)); }
+void Program::setUniform(int l, int x, int y, int z, int w) { checked(*this, __LINE__, __func__, l, values(x, y, z, w)); }
+void Program::setUniform(const char* n, int x, int y, int z, int w) { checkedByName(*this, __LINE__, __func__, n, values(x, y, z, w)); }
+void Program::setUniform_Unsafe(int l, int x, int y, int z, int w) { unchecked(__func__, l, values(x, y, z, w)); }
+void Program::setUniform_Unsafe(const char* n, int x, int y, int z, int w) { unchecked(__func__, getUniformLocation(n), values(x, y, z, w)); }
+
+void Program::setUniform(int l, float x) { checked(*this, __LINE__, __func__, l, values(x)); }
+void Program::setUniform(const char* n, float x) { checkedByName(*this, __LINE__, __func__, n, values(x)); }
+void Program::setUniform_Unsafe(int l, float x) { unchecked(__func__, l, values(x)); }
+void Program::setUniform_Unsafe(const char* n, float x) { unchecked(__func__, getUniformLocation(n), values(x)); }
+void Program::setUniform(int l, float x, float y) { checked(*this, __LINE__, __func__, l, values(x, y)); }
+void Program::setUniform(const char* n, float x, float y) { checkedByName(*this, __LINE__, __func__, n, values(x, y)); }
+void Program::setUniform_Unsafe(int l, float x, float y) { unchecked(__func__, l, values(x, y)); }
+void Program::setUniform_Unsafe(const char* n, float x, float y) { unchecked(__func__, getUniformLocation(n), values(x, y)); }
+void Program::setUniform(int l, float x, float y, float z) { checked(*this, __LINE__, __func__, l, values(x, y, z)); }
+void Program::setUniform(const char* n, float x, float y, float z) { checkedByName(*this, __LINE__, __func__, n, values(x, y, z)); }
+void Program::setUniform_Unsafe(int l, float x, float y, float z) { unchecked(__func__, l, values(x, y, z)); }
+void Program::setUniform_Unsafe(const char* n, float x, float y, float z) { unchecked(__func__, getUniformLocation(n), values(x, y, z)); }
+void Program::setUniform(int l, float x, float y, float z, float w) { checked(*this, __LINE__, __func__, l, values(x, y, z, w)); }
+void Program::setUniform(const char* n, float x, float y, float z, float w) { checkedByName(*this, __LINE__, __func__, n, values(x, y, z, w)); }
+void Program::setUniform_Unsafe(int l, float x, float y, float z, float w) { unchecked(__func__, l, values(x, y, z, w)); }
+void Program::setUniform_Unsafe(const char* n, float x, float y, float z, float w) { unchecked(__func__, getUniformLocation(n), values(x, y, z, w)); }
+
+void Program::setUniformSampler1D(int l, int unit) { checked(*this, __LINE__, __func__, l, values(unit)); }
+void Program::setUniformSampler1D(const char* n, int unit) { checkedByName(*this, __LINE__, __func__, n, values(unit)); }
+void Program::setUniformSampler1D_Unsafe(int l, int unit) { unchecked(__func__, l, values(unit)); }
+void Program::setUniformSampler1D_Unsafe(const char* n, int unit) { unchecked(__func__, getUniformLocation(n), values(unit)); }
+void Program::setUniformSampler2D(int l, int unit) { checked(*this, __LINE__, __func__, l, values(unit)); }
+void Program::setUniformSampler2D(const char* n, int unit) { checkedByName(*this, __LINE__, __func__, n, values(unit)); }
+void Program::setUniformSampler2D_Unsafe(int l, int unit) { unchecked(__func__, l, values(unit)); }
+void Program::setUniformSampler2D_Unsafe(const char* n, int unit) { unchecked(__func__, getUniformLocation(n), values(unit)); }
+void Program::setUniformSampler3D(int l, int unit) { checked(*this, __LINE__, __func__, l, values(unit)); }
+void Program::setUniformSampler3D(const char* n, int unit) { checkedByName(*this, __LINE__, __func__, n, values(unit)); }
+void Program::setUniformSampler3D_Unsafe(int l, int unit) { unchecked(__func__, l, values(unit)); }
+void Program::setUniformSampler3D_Unsafe(const char* n, int unit) { unchecked(__func__, getUniformLocation(n), values(unit)); }
+void Program::setUniformSampler2DRECT(int l, int unit) { checked(*this, __LINE__, __func__, l, values(unit)); }
+void Program::setUniformSampler2DRECT(const char* n, int unit) { checkedByName(*this, __LINE__, __func__, n, values(unit)); }
+void Program::setUniformSampler2DRECT_Unsafe(int l, int unit) { unchecked(__func__, l, values(unit)); }
+void Program::setUniformSampler2DRECT_Unsafe(const char* n, int unit) { unchecked(__func__, getUniformLocation(n), values(unit)); }
+
+void Program::setUniformMatrices2(int l, int c, const float* v, unsigned char t) { checked(*this, __LINE__, __func__, l, matrices(&_cgmUniformMatrix2fv, c, v, t)); }
+void Program::setUniformMatrices2(const char* n, int c, const float* v, unsigned char t) { setUniformMatrices2(getUniformLocation(n), c, v, t); }
+void Program::setUniformMatrices2_Unsafe(int l, int c, const float* v, unsigned char t) { unchecked(__func__, l, matrices(&_cgmUniformMatrix2fv, c, v, t)); }
+void Program::setUniformMatrices2_Unsafe(const char* n, int c, const float* v, unsigned char t) { setUniformMatrices2_Unsafe(getUniformLocation(n), c, v, t); }
+void Program::setUniformMatrices3(int l, int c, const float* v, unsigned char t) { checked(*this, __LINE__, __func__, l, matrices(&_cgmUniformMatrix3fv, c, v, t)); }
+void Program::setUniformMatrices3(const char* n, int c, const float* v, unsigned char t) { setUniformMatrices3(getUniformLocation(n), c, v, t); }
+void Program::setUniformMatrices3_Unsafe(int l, int c, const float* v, unsigned char t) { unchecked(__func__, l, matrices(&_cgmUniformMatrix3fv, c, v, t)); }
+void Program::setUniformMatrices3_Unsafe(const char* n, int c, const float* v, unsigned char t) { setUniformMatrices3_Unsafe(getUniformLocation(n), c, v, t); }
+void Program::setUniformMatrices4(int l, int c, const float* v, unsigned char t) { checked(*this, __LINE__, __func__, l, matrices(&_cgmUniformMatrix4fv, c, v, t)); }
+void Program::setUniformMatrices4(const char* n, int c, const float* v, unsigned char t) { setUniformMatrices4(getUniformLocation(n), c, v, t); }
+void Program::setUniformMatrices4_Unsafe(int l, int c, const float* v, unsigned char t) { unchecked(__func__, l, matrices(&_cgmUniformMatrix4fv, c, v, t)); }
+void Program::setUniformMatrices4_Unsafe(const char* n, int c, const float* v, unsigned char t) { setUniformMatrices4_Unsafe(getUniformLocation(n), c, v, t); }
+
+void Program::setUniformMatrix2(int l, const float* v, unsigned char t) { setUniformMatrices2(l, 1, v, t); }
+void Program::setUniformMatrix2(const char* n, const float* v, unsigned char t) { setUniformMatrices2(getUniformLocation(n), 1, v, t); }
+void Program::setUniformMatrix2_Unsafe(int l, const float* v, unsigned char t) { setUniformMatrices2_Unsafe(l, 1, v, t); }
+void Program::setUniformMatrix2_Unsafe(const char* n, const float* v, unsigned char t) { setUniformMatrices2_Unsafe(getUniformLocation(n), 1, v, t); }
+void Program::setUniformMatrix3(int l, const float* v, unsigned char t) { setUniformMatrices3(l, 1, v, t); }
+void Program::setUniformMatrix3(const char* n, const float* v, unsigned char t) { setUniformMatrices3(getUniformLocation(n), 1, v, t); }
+void Program::setUniformMatrix3_Unsafe(int l, const float* v, unsigned char t) { setUniformMatrices3_Unsafe(l, 1, v, t); }
+void Program::setUniformMatrix3_Unsafe(const char* n, const float* v, unsigned char t) { setUniformMatrices3_Unsafe(getUniformLocation(n), 1, v, t); }
+void Program::setUniformMatrix4(int l, const float* v, unsigned char t) { setUniformMatrices4(l, 1, v, t); }
+void Program::setUniformMatrix4(const char* n, const float* v, unsigned char t) { setUniformMatrices4(getUniformLocation(n), 1, v, t); }
+void Program::setUniformMatrix4_Unsafe(int l, const float* v, unsigned char t) { setUniformMatrices4_Unsafe(l, 1, v, t); }
+void Program::setUniformMatrix4_Unsafe(const char* n, const float* v, unsigned char t) { setUniformMatrices4_Unsafe(getUniformLocation(n), 1, v, t); }
+
+void Program::setUniform(int l, int c, int* v) { setArray(*this, kCheckedArray, __func__, __LINE__, l, 1, c, v); }
+void Program::setUniform(const char* n, int c, int* v) { setArray(*this, kCheckedArrayByName, __func__, 0, getUniformLocation(n), 1, c, v); }
+void Program::setUniform_Unsafe(int l, int c, int* v) { setArray(*this, kUncheckedArray, __func__, 0, l, 1, c, v); }
+void Program::setUniform_Unsafe(const char* n, int c, int* v) { setArray(*this, kUncheckedArrayByName, __func__, 0, getUniformLocation(n), 1, c, v); }
+void Program::setUniform2(int l, int c, int* v) { setArray(*this, kCheckedArray, __func__, __LINE__, l, 2, c, v); }
+void Program::setUniform2(const char* n, int c, int* v) { setArray(*this, kCheckedArrayByName, __func__, 0, getUniformLocation(n), 2, c, v); }
+void Program::setUniform2_Unsafe(int l, int c, int* v) { setArray(*this, kUncheckedArray, __func__, 0, l, 2, c, v); }
+void Program::setUniform2_Unsafe(const char* n, int c, int* v) { setArray(*this, kUncheckedArrayByName, __func__, 0, getUniformLocation(n), 2, c, v); }
+void Program::setUniform3(int l, int c, int* v) { setArray(*this, kCheckedArray, __func__, __LINE__, l, 3, c, v); }
+void Program::setUniform3(const char* n, int c, int* v) { setArray(*this, kCheckedArrayByName, __func__, 0, getUniformLocation(n), 3, c, v); }
+void Program::setUniform3_Unsafe(int l, int c, int* v) { setArray(*this, kUncheckedArray, __func__, 0, l, 3, c, v); }
+void Program::setUniform3_Unsafe(const char* n, int c, int* v) { setArray(*this, kUncheckedArrayByName, __func__, 0, getUniformLocation(n), 3, c, v); }
+void Program::setUniform4(int l, int c, int* v) { setArray(*this, kCheckedArray, __func__, __LINE__, l, 4, c, v); }
+void Program::setUniform4(const char* n, int c, int* v) { setArray(*this, kCheckedArrayByName, __func__, 0, getUniformLocation(n), 4, c, v); }
+void Program::setUniform4_Unsafe(int l, int c, int* v) { setArray(*this, kUncheckedArray, __func__, 0, l, 4, c, v); }
+void Program::setUniform4_Unsafe(const char* n, int c, int* v) { setArray(*this, kUncheckedArrayByName, __func__, 0, getUniformLocation(n), 4, c, v); }
+
+void Program::setUniform(int l, int c, float* v) { setArray(*this, kCheckedArray, __func__, __LINE__, l, 1, c, v); }
+void Program::setUniform(const char* n, int c, float* v) { setArray(*this, kCheckedArrayByName, __func__, 0, getUniformLocation(n), 1, c, v); }
+void Program::setUniform_Unsafe(int l, int c, float* v) { setArray(*this, kUncheckedArray, __func__, 0, l, 1, c, v); }
+void Program::setUniform_Unsafe(const char* n, int c, float* v) { setArray(*this, kUncheckedArrayByName, __func__, 0, getUniformLocation(n), 1, c, v); }
+void Program::setUniform2(int l, int c, float* v) { setArray(*this, kCheckedArray, __func__, __LINE__, l, 2, c, v); }
+void Program::setUniform2(const char* n, int c, float* v) { setArray(*this, kCheckedArrayByName, __func__, 0, getUniformLocation(n), 2, c, v); }
+void Program::setUniform2_Unsafe(int l, int c, float* v) { setArray(*this, kUncheckedArray, __func__, 0, l, 2, c, v); }
+void Program::setUniform2_Unsafe(const char* n, int c, float* v) { setArray(*this, kUncheckedArrayByName, __func__, 0, getUniformLocation(n), 2, c, v); }
+void Program::setUniform3(int l, int c, float* v) { setArray(*this, kCheckedArray, __func__, __LINE__, l, 3, c, v); }
+void Program::setUniform3(const char* n, int c, float* v) { setArray(*this, kCheckedArrayByName, __func__, 0, getUniformLocation(n), 3, c, v); }
+void Program::setUniform3_Unsafe(int l, int c, float* v) { setArray(*this, kUncheckedArray, __func__, 0, l, 3, c, v); }
+void Program::setUniform3_Unsafe(const char* n, int c, float* v) { setArray(*this, kUncheckedArrayByName, __func__, 0, getUniformLocation(n), 3, c, v); }
+void Program::setUniform4(int l, int c, float* v) { setArray(*this, kCheckedArray, __func__, __LINE__, l, 4, c, v); }
+void Program::setUniform4(const char* n, int c, float* v) { setArray(*this, kCheckedArrayByName, __func__, 0, getUniformLocation(n), 4, c, v); }
+void Program::setUniform4_Unsafe(int l, int c, float* v) { setArray(*this, kUncheckedArray, __func__, 0, l, 4, c, v); }
+void Program::setUniform4_Unsafe(const char* n, int c, float* v) { setArray(*this, kUncheckedArrayByName, __func__, 0, getUniformLocation(n), 4, c, v); }
+// clang-format on
 
 } // namespace OGL
 } // namespace Oru

@@ -4,6 +4,7 @@
 #include "oru_ogl/extensionator/EntryPoints.h"
 #include "oru_ogl/extensionator/ExtensionManager.h"
 #include "oru_ogl/ogl/GLConstants.h"
+#include "oru_ogl/ogl/WrapperCheck.h"
 
 namespace Oru
 {
@@ -13,8 +14,8 @@ namespace OGL
 namespace
 {
 
-// The stencil-index formats of GL_EXT_framebuffer_object, 0x8D45 to 0x8D49.
-const GLenum kFirstStencilIndex = 0x8D45;
+// The stencil-index formats of GL_EXT_framebuffer_object.
+const GLenum kFirstStencilIndex = GL_STENCIL_INDEX_EXT;
 const GLenum kLastStencilIndex = GL_STENCIL_INDEX16_EXT;
 
 GLenum attachmentOf(GLenum format)
@@ -38,6 +39,7 @@ int Renderbuffer::maxSize()
 {
     GLint size = 0;
     glGetIntegerv(GL_MAX_RENDERBUFFER_SIZE_EXT, &size);
+    ORU_CHECK_GL(Renderbuffer);
     return size;
 }
 
@@ -64,6 +66,7 @@ Renderbuffer::Renderbuffer(unsigned int format, int width, int height)
     nAttachment_ = attachmentOf(format);
     unbind();
     _cgmBindRenderbufferEXT(target(), previous);
+    ORU_CHECK_GL(Renderbuffer);
 }
 
 Renderbuffer::~Renderbuffer()
@@ -94,6 +97,7 @@ unsigned int Renderbuffer::attachment() const
 void Renderbuffer::bind()
 {
     _cgmBindRenderbufferEXT(target(), n_ObjectID);
+    ORU_CHECK_GL(Renderbuffer);
 }
 
 // The text speaks of a framebuffer object: the two classes share it.
@@ -102,6 +106,7 @@ void Renderbuffer::unbind()
     if (!isBound())
         ORU_THROW("Framebuffer object must be bound before calling unbind()");
     _cgmBindRenderbufferEXT(target(), 0);
+    ORU_CHECK_GL(Renderbuffer);
 }
 
 } // namespace OGL

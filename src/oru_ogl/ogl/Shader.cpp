@@ -3,13 +3,17 @@
 #include "oru_ogl/Enforce.h"
 #include "oru_ogl/extensionator/EntryPoints.h"
 #include "oru_ogl/extensionator/ExtensionManager.h"
+#include "oru_ogl/ogl/GLConstants.h"
+#include "oru_ogl/ogl/TwoWayTable.h"
+#include "oru_ogl/ogl/WrapperCheck.h"
 
 #include <vector>
 
 // GLSL shader objects. The wrappers call the OpenGL 2.0 entry points through
 // the _cgm pointers directly, not through the interception chain: that chain
-// is the client's. GL errors are left to GL. Nothing is cached; every state is
-// read back from GL when asked.
+// is the client's. GL errors are left to GL unless checked wrappers are on
+// (WrapperCheck.h). Nothing is cached; every state is read back from GL when
+// asked.
 
 namespace Oru
 {
@@ -19,11 +23,20 @@ namespace OGL
 namespace
 {
 
-const GLenum kFragmentShader = 0x8B30;    // GL_FRAGMENT_SHADER
-const GLenum kVertexShader = 0x8B31;      // GL_VERTEX_SHADER
-const GLenum kCompileStatus = 0x8B81;     // GL_COMPILE_STATUS
-const GLenum kInfoLogLength = 0x8B84;     // GL_INFO_LOG_LENGTH
-const GLenum kShaderSourceLength = 0x8B88; // GL_SHADER_SOURCE_LENGTH
+// The lines that this file's checks report; callers match on them.
+const int kSupportLine = 39;
+const int kTypeLine = 51;
+const int kDeleteLine = 60;
+const int kCompileLogLine = 122;
+const int kCompileNoLogLine = 124;
+
+// A value cast into ShaderType from outside the two is refused.
+const TwoWayTable<Shader::ShaderType>::Row kShaderTypeRows[] = {
+    { Shader::FRAGMENT_SHADER, GL_FRAGMENT_SHADER },
+    { Shader::VERTEX_SHADER, GL_VERTEX_SHADER },
+};
+const TwoWayTable<Shader::ShaderType> kShaderTypes(kShaderTypeRows, __FILE__, kTypeLine,
+                                                   "!\"Type enums are not all properly translated.\"");
 
 } // namespace
 
@@ -36,40 +49,31 @@ bool Shader::isSupported()
 // no 2.0 (1.x, or 3.0 and later, whose pointers may be null).
 Shader::Shader(ShaderType type)
 {
-    ORU_VERIFY(Oru::OGL::ExtensionManager::Instance()->isSupported(OPEN_GL_2_0));
-    GLenum glType = 0;
-    switch (type)
-    {
-    case FRAGMENT_SHADER:
-        glType = kFragmentShader;
-        break;
-    case VERTEX_SHADER:
-        glType = kVertexShader;
-        break;
-    default:
-        // A value cast into ShaderType from outside the two above.
-        ORU_VERIFY(!"Type enums are not all properly translated.");
-    }
+    ORU_VERIFY_AT(kSupportLine, Oru::OGL::ExtensionManager::Instance()->isSupported(OPEN_GL_2_0));
+    const GLenum glType = kShaderTypes.toGL(type);
     _hObject = _cgmCreateShader(glType);
+    ORU_CHECK_GL(Shader);
 }
 
 // GL keeps a deleted shader while a program still has it attached; the
 // program then holds its only reference (see Program::loadVertexShader).
 Shader::~Shader() noexcept(false)
 {
-    ORU_VERIFY(_hObject != 0);
+    ORU_VERIFY_AT(kDeleteLine, _hObject != 0);
     _cgmDeleteShader(_hObject);
 }
 
 void Shader::load(unsigned int count, const char** strings, int* lengths)
 {
     _cgmShaderSource(_hObject, static_cast<GLsizei>(count), strings, lengths);
+    ORU_CHECK_GL(Shader);
 }
 
 bool Shader::isCompiled() const
 {
     GLint status = 0;
-    _cgmGetShaderiv(_hObject, kCompileStatus, &status);
+    _cgmGetShaderiv(_hObject, GL_COMPILE_STATUS, &status);
+    ORU_CHECK_GL(Shader);
     return status != 0;
 }
 
@@ -77,20 +81,23 @@ bool Shader::isCompiled() const
 bool Shader::isLoaded() const
 {
     GLint length = 0;
-    _cgmGetShaderiv(_hObject, kShaderSourceLength, &length);
+    _cgmGetShaderiv(_hObject, GL_SHADER_SOURCE_LENGTH, &length);
+    ORU_CHECK_GL(Shader);
     return length > 1;
 }
 
 int Shader::getInfoLogLength() const
 {
     GLint length = 0;
-    _cgmGetShaderiv(_hObject, kInfoLogLength, &length);
+    _cgmGetShaderiv(_hObject, GL_INFO_LOG_LENGTH, &length);
+    ORU_CHECK_GL(Shader);
     return length;
 }
 
 void Shader::getInfoLog(int maxLength, char* buffer)
 {
     _cgmGetShaderInfoLog(_hObject, maxLength, nullptr, buffer);
+    ORU_CHECK_GL(Shader);
 }
 
 VertexShader::VertexShader()
@@ -112,6 +119,7 @@ FragmentShader::~FragmentShader() noexcept(false) = default;
 void Shader::compile(bool check)
 {
     _cgmCompileShader(_hObject);
+    ORU_CHECK_GL(Shader);
     if (!check || isCompiled())
         return;
     const int length = getInfoLogLength();
@@ -119,9 +127,9 @@ void Shader::compile(bool check)
     {
         std::vector<char> log(static_cast<std::size_t>(static_cast<unsigned int>(length)) + 1, '\0');
         getInfoLog(length, log.data());
-        ORU_THROW("Program Compile Error: \n" << log.data());
+        ORU_THROW_AT(kCompileLogLine, "Program Compile Error: \n" << log.data());
     }
-    ORU_THROW("Unknown Compile Error.");
+    ORU_THROW_AT(kCompileNoLogLine, "Unknown Compile Error.");
 }
 
 // ---------------------------------------------------------------------------

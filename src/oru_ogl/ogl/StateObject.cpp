@@ -2,6 +2,7 @@
 
 #include "oru_ogl/Enforce.h"
 #include "oru_ogl/ogl/GLConstants.h"
+#include "oru_ogl/ogl/WrapperCheck.h"
 
 // A snapshot of the fixed-function pipeline's current vertex and raster
 // state. Only the current colour is read from GL by CurrentState(); every
@@ -53,6 +54,7 @@ StateObject_2_0 StateObject_2_0::CurrentState()
 {
     StateObject_2_0 state;
     glGetFloatv(GL_CURRENT_COLOR, &state.currentColor_.x);
+    ORU_CHECK_GL(StateObject_2_0);
     return state;
 }
 

@@ -6,6 +6,7 @@
 #include "oru_ogl/extensionator/ExtensionManager.h"
 #include "oru_ogl/ogl/GLConstants.h"
 #include "oru_ogl/ogl/TextureState.h"
+#include "oru_ogl/ogl/WrapperCheck.h"
 
 // The texture base: the name, format and size every texture has, and the
 // layer's vocabulary for textures with its translations to GL.
@@ -20,12 +21,27 @@
 // drift apart. A value outside a table is a programming error in the caller
 // (a cast from an integer, usually) and raises the table's own text; GL never
 // sees it. Texture code calls GL 1.1 directly and the multitexture entry
-// point through its pointer; no GL error is checked here.
+// point through its pointer; GL errors are checked only with checked wrappers
+// on (WrapperCheck.h).
 
 namespace Oru
 {
 namespace OGL
 {
+
+namespace
+{
+
+// The lines that this file's checks report; callers match on them.
+const int kNoNameLine = 47;
+const int kNotBoundLine = 199;
+const int kNotEnabledLine = 218;
+const int kUnsizedFormatLine = 346;
+const int kUnsizedPixelFormatLine = 381;
+const int kUnknownChannelsLine = 491;
+const int kUnknownFormatLine = 495;
+
+} // namespace
 
 // The target and binding query are translated first, so a bad enumeration is
 // refused before a GL name exists. Nothing is bound and no storage is made:
@@ -44,7 +60,8 @@ Texture::Texture(Target target, TargetBinding binding, InternalFormat format, st
 {
     glGenTextures(1, &n_ObjectID);
     if (n_ObjectID == 0)
-        ORU_THROW("Texture:: contructor failed to allocate new GPU texture resource");
+        ORU_THROW_AT(kNoNameLine, "Texture:: contructor failed to allocate new GPU texture resource");
+    ORU_CHECK_GL(Texture);
 }
 
 // Deleting a bound texture is legal: GL binds the default texture in its place.
@@ -99,12 +116,14 @@ void Texture::setFilter(Filter minFilter, Filter magFilter)
 {
     glTexParameteri(target(), GL_TEXTURE_MIN_FILTER, static_cast<GLint>(Filter2GL(minFilter)));
     glTexParameteri(target(), GL_TEXTURE_MAG_FILTER, static_cast<GLint>(Filter2GL(magFilter)));
+    ORU_CHECK_GL(Texture);
 }
 
 // Used by the CLAMP_TO_BORDER wrap mode and by GL_CLAMP at the border texels.
 void Texture::setBorderColor(const float* rgba)
 {
     glTexParameterfv(target(), GL_TEXTURE_BORDER_COLOR, rgba);
+    ORU_CHECK_GL(Texture);
 }
 
 // Regenerates levels 1 and up whenever level 0 changes; see
@@ -112,6 +131,7 @@ void Texture::setBorderColor(const float* rgba)
 void Texture::enableAutoMIPGeneration(bool on)
 {
     glTexParameteri(target(), GL_GENERATE_MIPMAP, on ? 1 : 0);
+    ORU_CHECK_GL(Texture);
 }
 
 // ---------------------------------------------------------------------------
@@ -171,6 +191,7 @@ int Texture::CurrentUnit_DEPRECATED_1_0()
 void Texture::setEnv_DEPRECATED_1_0(unsigned int mode)
 {
     glTexEnvi(GL_TEXTURE_ENV, GL_TEXTURE_ENV_MODE, static_cast<GLint>(mode));
+    ORU_CHECK_GL(Texture);
 }
 
 // Binding does not enable: a shader samples the texture now, the fixed-
@@ -180,6 +201,7 @@ void Texture::bind_DEPRECATED_1_0(int unit)
     if (unit != CURRENT_UNIT)
         TextureState::setActiveTexture(unit);
     glBindTexture(target(), n_ObjectID);
+    ORU_CHECK_GL(Texture);
 }
 
 // Enables the target on the unit and binds this texture to it.
@@ -189,6 +211,7 @@ void Texture::enable_DEPRECATED_1_0(int unit)
         TextureState::setActiveTexture(unit);
     glEnable(target());
     glBindTexture(target(), n_ObjectID);
+    ORU_CHECK_GL(Texture);
 }
 
 // Unbinding another texture's binding would silently detach it; refused.
@@ -196,8 +219,9 @@ void Texture::unbind_DEPRECATED_1_0(int unit)
 {
     ActiveUnitGuard guard(unit);
     if (!isBound())
-        ORU_THROW("Texture not bound");
+        ORU_THROW_AT(kNotBoundLine, "Texture not bound");
     glBindTexture(target(), 0);
+    ORU_CHECK_GL(Texture);
 }
 
 // Enabled means: this texture is bound and its target is enabled on the unit.
@@ -208,6 +232,7 @@ bool Texture::isEnabled_DEPRECATED_1_0(int unit) const
         return false;
     GLint enabled = 0;
     glGetIntegerv(target(), &enabled);
+    ORU_CHECK_GL(Texture);
     return enabled != 0;
 }
 
@@ -215,11 +240,12 @@ void Texture::disable_DEPRECATED_1_0(int unit)
 {
     ActiveUnitGuard guard(unit);
     if (!isEnabled_DEPRECATED_1_0(CURRENT_UNIT))
-        ORU_THROW("Texture target is not enabled..can't disable texture");
+        ORU_THROW_AT(kNotEnabledLine, "Texture target is not enabled..can't disable texture");
     // Only this texture may be disabled: when another one is bound, the
     // target stays enabled for it and the caller is told instead.
     glBindTexture(target(), 0);
     glDisable(target());
+    ORU_CHECK_GL(Texture);
 }
 
 // ---------------------------------------------------------------------------
@@ -343,7 +369,7 @@ std::size_t Texture::Channels(InternalFormat format)
     case RGBA16F:
         return 4;
     default:
-        ORU_THROW("InternalFormat enums are not all properly sized.");
+        ORU_THROW_AT(kUnsizedFormatLine, "InternalFormat enums are not all properly sized.");
     }
 }
 
@@ -378,7 +404,7 @@ std::size_t Texture::Channels(Format format)
     // A value past the enumeration, cast from an integer, is refused with
     // the same text as an internal format that cannot be sized.
     default:
-        ORU_THROW("InternalFormat enums are not all properly sized.");
+        ORU_THROW_AT(kUnsizedPixelFormatLine, "InternalFormat enums are not all properly sized.");
     }
 }
 
@@ -488,11 +514,12 @@ std::size_t Texture::SizeInBytes(InternalFormat format, std::size_t width, std::
     case RGB5_A1:
     case RGB10_A2:
     case RGBA12:
-        ORU_THROW("Texture::SizeInBytes Unknown color channels for format " << TokenName(format));
+        ORU_THROW_AT(kUnknownChannelsLine,
+                     "Texture::SizeInBytes Unknown color channels for format " << TokenName(format));
     // RGB4, which is in no channel group either, and anything past the
     // enumeration.
     default:
-        ORU_THROW("InternalFormat enums are not all properly sized.");
+        ORU_THROW_AT(kUnknownFormatLine, "InternalFormat enums are not all properly sized.");
     }
     return bytesPerChannel * Channels(format) * width * height * depth;
 }
@@ -523,66 +550,44 @@ void Texture::verifyCurrentTextureObject() const
 }
 
 // ---------------------------------------------------------------------------
-// Translations. One table per enumeration, {layer value, GL value} per row,
-// read forwards by X2GL and backwards by GL2X. Each direction ends in the
-// table's own refusal for a value that has no row.
+// Translations: one two-way table per enumeration. Each refuses a value
+// without a row with its own text, reported at the line of its table.
 // ---------------------------------------------------------------------------
+
+} // namespace OGL
+} // namespace Oru
+
+#include "oru_ogl/ogl/TwoWayTable.h"
+
+namespace Oru
+{
+namespace OGL
+{
 
 namespace
 {
 
-template <class E>
-struct Row
-{
-    E value;
-    GLenum gl;
-};
-
-template <class E, std::size_t N>
-bool findGL(Row<E> const (&table)[N], E value, unsigned int& gl)
-{
-    for (Row<E> const& row : table)
-    {
-        if (row.value == value)
-        {
-            gl = row.gl;
-            return true;
-        }
-    }
-    return false;
-}
-
-template <class E, std::size_t N>
-bool findValue(Row<E> const (&table)[N], unsigned int gl, E& value)
-{
-    for (Row<E> const& row : table)
-    {
-        if (row.gl == gl)
-        {
-            value = row.value;
-            return true;
-        }
-    }
-    return false;
-}
-
-const Row<Texture::Target> kTargets[] = {
+const TwoWayTable<Texture::Target>::Row kTargetsRows[] = {
     { Texture::TEXTURE_1D, GL_TEXTURE_1D },
     { Texture::TEXTURE_2D, GL_TEXTURE_2D },
     { Texture::TEXTURE_3D, GL_TEXTURE_3D },
     { Texture::TEXTURE_RECT, GL_TEXTURE_RECTANGLE_ARB },
 };
+const TwoWayTable<Texture::Target> kTargets(kTargetsRows, __FILE__, __LINE__,
+    "!\"Target enums are not all properly translated.\"");
 
-const Row<Texture::TargetBinding> kTargetBindings[] = {
+const TwoWayTable<Texture::TargetBinding>::Row kTargetBindingsRows[] = {
     { Texture::TEXTURE_BINDING_1D, GL_TEXTURE_BINDING_1D },
     { Texture::TEXTURE_BINDING_2D, GL_TEXTURE_BINDING_2D },
     { Texture::TEXTURE_BINDING_3D, GL_TEXTURE_BINDING_3D },
     { Texture::TEXTURE_BINDING_RECT, GL_TEXTURE_BINDING_RECTANGLE_ARB },
 };
+const TwoWayTable<Texture::TargetBinding> kTargetBindings(kTargetBindingsRows, __FILE__, __LINE__,
+    "!\"Target enums are not all properly translated.\"");
 
 // The sized formats of GL 1.1 and the floating-point ones of
 // GL_ARB_texture_float (38 to 49).
-const Row<Texture::InternalFormat> kInternalFormats[] = {
+const TwoWayTable<Texture::InternalFormat>::Row kInternalFormatsRows[] = {
     { Texture::ALPHA, GL_ALPHA },
     { Texture::ALPHA4, GL_ALPHA4 },
     { Texture::ALPHA8, GL_ALPHA8 },
@@ -634,8 +639,10 @@ const Row<Texture::InternalFormat> kInternalFormats[] = {
     { Texture::LUMINANCE16F, GL_LUMINANCE16F_ARB },
     { Texture::LUMINANCE_ALPHA16F, GL_LUMINANCE_ALPHA16F_ARB },
 };
+const TwoWayTable<Texture::InternalFormat> kInternalFormats(kInternalFormatsRows, __FILE__, __LINE__,
+    "!\"InternalFormat enums are not all properly translated.\"");
 
-const Row<Texture::Format> kFormats[] = {
+const TwoWayTable<Texture::Format>::Row kFormatsRows[] = {
     { Texture::Format::COLOR_INDEX, GL_COLOR_INDEX },
     { Texture::Format::RED, GL_RED },
     { Texture::Format::GREEN, GL_GREEN },
@@ -648,8 +655,10 @@ const Row<Texture::Format> kFormats[] = {
     { Texture::Format::LUMINANCE, GL_LUMINANCE },
     { Texture::Format::LUMINANCE_ALPHA, GL_LUMINANCE_ALPHA },
 };
+const TwoWayTable<Texture::Format> kFormats(kFormatsRows, __FILE__, __LINE__,
+    "!\"Format enums are not all properly translated.\"");
 
-const Row<Texture::Type> kTypes[] = {
+const TwoWayTable<Texture::Type>::Row kTypesRows[] = {
     { Texture::UNSIGNED_BYTE, GL_UNSIGNED_BYTE },
     { Texture::BYTE, GL_BYTE },
     { Texture::BITMAP, GL_BITMAP },
@@ -672,8 +681,10 @@ const Row<Texture::Type> kTypes[] = {
     { Texture::UNSIGNED_INT_2_10_10_10_REV, GL_UNSIGNED_INT_2_10_10_10_REV },
     { Texture::HALF_FLOAT, GL_HALF_FLOAT_ARB },
 };
+const TwoWayTable<Texture::Type> kTypes(kTypesRows, __FILE__, __LINE__,
+    "!\"Type enums are not all properly translated.\"");
 
-const Row<Texture::Filter> kFilters[] = {
+const TwoWayTable<Texture::Filter>::Row kFiltersRows[] = {
     { Texture::NEAREST, GL_NEAREST },
     { Texture::LINEAR, GL_LINEAR },
     { Texture::NEAREST_MIPMAP_NEAREST, GL_NEAREST_MIPMAP_NEAREST },
@@ -681,16 +692,20 @@ const Row<Texture::Filter> kFilters[] = {
     { Texture::NEAREST_MIPMAP_LINEAR, GL_NEAREST_MIPMAP_LINEAR },
     { Texture::LINEAR_MIPMAP_LINEAR, GL_LINEAR_MIPMAP_LINEAR },
 };
+const TwoWayTable<Texture::Filter> kFilters(kFiltersRows, __FILE__, __LINE__,
+    "!\"Filter enums are not all properly translated.\"");
 
-const Row<Texture::WrapMode> kWrapModes[] = {
+const TwoWayTable<Texture::WrapMode>::Row kWrapModesRows[] = {
     { Texture::CLAMP, GL_CLAMP },
     { Texture::CLAMP_TO_BORDER, GL_CLAMP_TO_BORDER },
     { Texture::CLAMP_TO_EDGE, GL_CLAMP_TO_EDGE },
     { Texture::MIRRORED_REPEAT, GL_MIRRORED_REPEAT },
     { Texture::REPEAT, GL_REPEAT },
 };
+const TwoWayTable<Texture::WrapMode> kWrapModes(kWrapModesRows, __FILE__, __LINE__,
+    "!\"WrapMode enums are not all properly translated.\"");
 
-const Row<Texture::PixelStoreMode> kPixelStoreModes[] = {
+const TwoWayTable<Texture::PixelStoreMode>::Row kPixelStoreModesRows[] = {
     { Texture::PACK_SWAP_BYTES, GL_PACK_SWAP_BYTES },
     { Texture::PACK_LSB_FIRST, GL_PACK_LSB_FIRST },
     { Texture::PACK_ROW_LENGTH, GL_PACK_ROW_LENGTH },
@@ -708,139 +723,30 @@ const Row<Texture::PixelStoreMode> kPixelStoreModes[] = {
     { Texture::UNPACK_SKIP_IMAGES, GL_UNPACK_SKIP_IMAGES },
     { Texture::UNPACK_ALIGNMENT, GL_UNPACK_ALIGNMENT },
 };
+const TwoWayTable<Texture::PixelStoreMode> kPixelStoreModes(kPixelStoreModesRows, __FILE__, __LINE__,
+    "!\"PixelStoreMode enums are not all properly translated.\"");
 
 } // namespace
 
-unsigned int Texture::Target2GL(Target target)
-{
-    unsigned int gl = 0;
-    if (!findGL(kTargets, target, gl))
-        ORU_VERIFY(!"Target enums are not all properly translated.");
-    return gl;
-}
-
-Texture::Target Texture::GL2Target(unsigned int target)
-{
-    Target value = TEXTURE_1D;
-    if (!findValue(kTargets, target, value))
-        ORU_VERIFY(!"Target enums are not all properly translated.");
-    return value;
-}
-
+unsigned int Texture::Target2GL(Target target) { return kTargets.toGL(target); }
+Texture::Target Texture::GL2Target(unsigned int target) { return kTargets.fromGL(target); }
 // The binding queries share the targets' text: they are the targets' twins.
-unsigned int Texture::TargetBinding2GL(TargetBinding binding)
-{
-    unsigned int gl = 0;
-    if (!findGL(kTargetBindings, binding, gl))
-        ORU_VERIFY(!"Target enums are not all properly translated.");
-    return gl;
-}
-
-Texture::TargetBinding Texture::GL2TargetBinding(unsigned int binding)
-{
-    TargetBinding value = TEXTURE_BINDING_1D;
-    if (!findValue(kTargetBindings, binding, value))
-        ORU_VERIFY(!"Target enums are not all properly translated.");
-    return value;
-}
-
-unsigned int Texture::InternalFormat2GL(InternalFormat format)
-{
-    unsigned int gl = 0;
-    if (!findGL(kInternalFormats, format, gl))
-        ORU_VERIFY(!"InternalFormat enums are not all properly translated.");
-    return gl;
-}
-
+unsigned int Texture::TargetBinding2GL(TargetBinding binding) { return kTargetBindings.toGL(binding); }
+Texture::TargetBinding Texture::GL2TargetBinding(unsigned int binding) { return kTargetBindings.fromGL(binding); }
+unsigned int Texture::InternalFormat2GL(InternalFormat format) { return kInternalFormats.toGL(format); }
 // Only the sized constants of the table translate back: GL's generic values
 // 1 to 4 for the component count are not internal formats of the layer.
-Texture::InternalFormat Texture::GL2InternalFormat(unsigned int format)
-{
-    InternalFormat value = ALPHA;
-    if (!findValue(kInternalFormats, format, value))
-        ORU_VERIFY(!"InternalFormat enums are not all properly translated.");
-    return value;
-}
-
-unsigned int Texture::Format2GL(Format format)
-{
-    unsigned int gl = 0;
-    if (!findGL(kFormats, format, gl))
-        ORU_VERIFY(!"Format enums are not all properly translated.");
-    return gl;
-}
-
-Texture::Format Texture::GL2Format(unsigned int format)
-{
-    Format value = Format::COLOR_INDEX;
-    if (!findValue(kFormats, format, value))
-        ORU_VERIFY(!"Format enums are not all properly translated.");
-    return value;
-}
-
-unsigned int Texture::Type2GL(Type type)
-{
-    unsigned int gl = 0;
-    if (!findGL(kTypes, type, gl))
-        ORU_VERIFY(!"Type enums are not all properly translated.");
-    return gl;
-}
-
-Texture::Type Texture::GL2Type(unsigned int type)
-{
-    Type value = UNSIGNED_BYTE;
-    if (!findValue(kTypes, type, value))
-        ORU_VERIFY(!"Type enums are not all properly translated.");
-    return value;
-}
-
-unsigned int Texture::Filter2GL(Filter filter)
-{
-    unsigned int gl = 0;
-    if (!findGL(kFilters, filter, gl))
-        ORU_VERIFY(!"Filter enums are not all properly translated.");
-    return gl;
-}
-
-Texture::Filter Texture::GL2Filter(unsigned int filter)
-{
-    Filter value = NEAREST;
-    if (!findValue(kFilters, filter, value))
-        ORU_VERIFY(!"Filter enums are not all properly translated.");
-    return value;
-}
-
-unsigned int Texture::WrapMode2GL(WrapMode mode)
-{
-    unsigned int gl = 0;
-    if (!findGL(kWrapModes, mode, gl))
-        ORU_VERIFY(!"WrapMode enums are not all properly translated.");
-    return gl;
-}
-
-Texture::WrapMode Texture::GL2WrapMode(unsigned int mode)
-{
-    WrapMode value = CLAMP;
-    if (!findValue(kWrapModes, mode, value))
-        ORU_VERIFY(!"WrapMode enums are not all properly translated.");
-    return value;
-}
-
-unsigned int Texture::PixelStoreMode2GL(PixelStoreMode mode)
-{
-    unsigned int gl = 0;
-    if (!findGL(kPixelStoreModes, mode, gl))
-        ORU_VERIFY(!"PixelStoreMode enums are not all properly translated.");
-    return gl;
-}
-
-Texture::PixelStoreMode Texture::GL2PixelStoreMode(unsigned int mode)
-{
-    PixelStoreMode value = PACK_SWAP_BYTES;
-    if (!findValue(kPixelStoreModes, mode, value))
-        ORU_VERIFY(!"PixelStoreMode enums are not all properly translated.");
-    return value;
-}
+Texture::InternalFormat Texture::GL2InternalFormat(unsigned int format) { return kInternalFormats.fromGL(format); }
+unsigned int Texture::Format2GL(Format format) { return kFormats.toGL(format); }
+Texture::Format Texture::GL2Format(unsigned int format) { return kFormats.fromGL(format); }
+unsigned int Texture::Type2GL(Type type) { return kTypes.toGL(type); }
+Texture::Type Texture::GL2Type(unsigned int type) { return kTypes.fromGL(type); }
+unsigned int Texture::Filter2GL(Filter filter) { return kFilters.toGL(filter); }
+Texture::Filter Texture::GL2Filter(unsigned int filter) { return kFilters.fromGL(filter); }
+unsigned int Texture::WrapMode2GL(WrapMode mode) { return kWrapModes.toGL(mode); }
+Texture::WrapMode Texture::GL2WrapMode(unsigned int mode) { return kWrapModes.fromGL(mode); }
+unsigned int Texture::PixelStoreMode2GL(PixelStoreMode mode) { return kPixelStoreModes.toGL(mode); }
+Texture::PixelStoreMode Texture::GL2PixelStoreMode(unsigned int mode) { return kPixelStoreModes.fromGL(mode); }
 
 } // namespace OGL
 } // namespace Oru

@@ -306,6 +306,8 @@ protected:
     };
 
 private:
+    friend class TextureTransfer; // the dimensions' shared transfers
+
     InternalFormat eFormat_;
     unsigned long long nWidth_;
     unsigned long long nHeight_;

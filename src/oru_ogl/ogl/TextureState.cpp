@@ -3,35 +3,29 @@
 #include "oru_ogl/Enforce.h"
 #include "oru_ogl/extensionator/EntryPoints.h"
 #include "oru_ogl/extensionator/ExtensionManager.h"
+#include "oru_ogl/ogl/GLConstants.h"
+#include "oru_ogl/ogl/WrapperCheck.h"
 
 namespace Oru
 {
 namespace OGL
 {
 
-namespace
-{
-
-const GLenum kTexture0 = 0x84C0;          // GL_TEXTURE0
-const GLenum kActiveTexture = 0x84E0;     // GL_ACTIVE_TEXTURE
-const GLenum kTexture3D = 0x806F;         // GL_TEXTURE_3D
-const GLenum kTextureRectangle = 0x84F5;  // GL_TEXTURE_RECTANGLE_ARB
-
-} // namespace
-
 // Through GL_ARB_multitexture's entry point, which a driver without
 // multitexturing does not have: that is refused by name.
 void TextureState::setActiveTexture(int unit)
 {
     ORU_REQUIRE_LOADED(_cgmActiveTextureARB, "glActiveTextureARB");
-    _cgmActiveTextureARB(kTexture0 + unit);
+    _cgmActiveTextureARB(GL_TEXTURE0 + unit);
+    ORU_CHECK_GL(TextureState);
 }
 
 int TextureState::activeTexture()
 {
     GLint active = 0;
-    glGetIntegerv(kActiveTexture, &active);
-    return active - static_cast<GLint>(kTexture0);
+    glGetIntegerv(GL_ACTIVE_TEXTURE, &active);
+    ORU_CHECK_GL(TextureState);
+    return active - static_cast<GLint>(GL_TEXTURE0);
 }
 
 bool TextureState::IsTargetSupported(unsigned int glTarget)
@@ -40,9 +34,9 @@ bool TextureState::IsTargetSupported(unsigned int glTarget)
     {
     case GL_TEXTURE_1D:
     case GL_TEXTURE_2D:
-    case kTexture3D:
+    case GL_TEXTURE_3D:
         return true;
-    case kTextureRectangle:
+    case GL_TEXTURE_RECTANGLE_ARB:
         return ExtensionManager::Instance()->isSupported(GL_ARB_TEXTURE_RECTANGLE);
     default:
         return false;

@@ -2,7 +2,9 @@
 
 #include "oru_ogl/Enforce.h"
 #include "oru_ogl/extensionator/ExtensionManager.h"
-#include "oru_ogl/extensionator/GLTypes.h"
+#include "oru_ogl/ogl/GLConstants.h"
+#include "oru_ogl/ogl/TwoWayTable.h"
+#include "oru_ogl/ogl/WrapperCheck.h"
 
 // The texture-unit table. One object per fixed-function unit of the context the
 // layer was started for, made by Library at start-up and deleted at shutdown.
@@ -17,8 +19,10 @@ namespace OGL
 namespace
 {
 
-const GLenum kTexture3D = 0x806F;        // GL_TEXTURE_3D
-const GLenum kTextureRectangle = 0x84F5; // GL_TEXTURE_RECTANGLE_ARB
+// The lines that this file's checks report; callers match on them.
+const int kUnitRangeLine = 76;
+const int kEnvironmentLine = 249;
+const int kNotCreatedLine = 280;
 
 } // namespace
 
@@ -33,6 +37,10 @@ unsigned int TextureUnit::nMaxTextureUnit_ = 0;
 // count comes from the extension manager, which must exist already.
 void TextureUnit::Create(Context* /*pContext*/)
 {
+    // Start-up's step in the wrappers' part of the layer: the wrappers' GL
+    // error check is switched by the options here, so that each check costs
+    // one test of a flag.
+    WrapperCheck::switchOn(ExtensionManager::Instance()->initOptions().checkedWrappers());
     if (nMaxTextureUnit_ != 0)
         return;
     const unsigned int count = ExtensionManager::Instance()->numberOfTextureUnits();
@@ -46,6 +54,7 @@ void TextureUnit::Create(Context* /*pContext*/)
 // next start-up.
 void TextureUnit::Destroy()
 {
+    WrapperCheck::switchOn(false);
     for (TextureUnit* unit : units_)
         delete unit;
     units_.clear();
@@ -73,7 +82,7 @@ TextureUnit::~TextureUnit() = default;
 // first.
 TextureUnit* TextureUnit::Unit(unsigned int unit)
 {
-    ORU_VERIFY(unit < nMaxTextureUnit_);
+    ORU_VERIFY_AT(kUnitRangeLine, unit < nMaxTextureUnit_);
     return units_[unit];
 }
 
@@ -95,105 +104,47 @@ void TextureUnit::bindTexture(unsigned int target, unsigned int name) const
 {
     verifyActiveTexture();
     glBindTexture(target, name);
+    ORU_CHECK_GL(TextureUnit);
 }
 
 void TextureUnit::enable(unsigned int target) const
 {
     verifyActiveTexture();
     glEnable(target);
+    ORU_CHECK_GL(TextureUnit);
 }
 
 void TextureUnit::disable(unsigned int target) const
 {
     verifyActiveTexture();
     glDisable(target);
+    ORU_CHECK_GL(TextureUnit);
 }
 
 bool TextureUnit::isEnabled(unsigned int target) const
 {
     verifyActiveTexture();
-    return glIsEnabled(target) == GL_TRUE;
+    const bool enabled = glIsEnabled(target) == GL_TRUE;
+    ORU_CHECK_GL(TextureUnit);
+    return enabled;
 }
 
-void TextureUnit::bind1DDefault() const
-{
-    bindTexture(GL_TEXTURE_1D, 0);
-}
-
-void TextureUnit::bind2DDefault() const
-{
-    bindTexture(GL_TEXTURE_2D, 0);
-}
-
-void TextureUnit::bind3DDefault() const
-{
-    bindTexture(kTexture3D, 0);
-}
-
-void TextureUnit::bindRECTDefault() const
-{
-    bindTexture(kTextureRectangle, 0);
-}
-
-void TextureUnit::enable1D() const
-{
-    enable(GL_TEXTURE_1D);
-}
-
-void TextureUnit::enable2D() const
-{
-    enable(GL_TEXTURE_2D);
-}
-
-void TextureUnit::enable3D() const
-{
-    enable(kTexture3D);
-}
-
-void TextureUnit::enableRECT() const
-{
-    enable(kTextureRectangle);
-}
-
-void TextureUnit::disable1D() const
-{
-    disable(GL_TEXTURE_1D);
-}
-
-void TextureUnit::disable2D() const
-{
-    disable(GL_TEXTURE_2D);
-}
-
-void TextureUnit::disable3D() const
-{
-    disable(kTexture3D);
-}
-
-void TextureUnit::disableRECT() const
-{
-    disable(kTextureRectangle);
-}
-
-bool TextureUnit::isEnabled1D() const
-{
-    return isEnabled(GL_TEXTURE_1D);
-}
-
-bool TextureUnit::isEnabled2D() const
-{
-    return isEnabled(GL_TEXTURE_2D);
-}
-
-bool TextureUnit::isEnabled3D() const
-{
-    return isEnabled(kTexture3D);
-}
-
-bool TextureUnit::isEnabledRECT() const
-{
-    return isEnabled(kTextureRectangle);
-}
+void TextureUnit::bind1DDefault() const { bindTexture(GL_TEXTURE_1D, 0); }
+void TextureUnit::bind2DDefault() const { bindTexture(GL_TEXTURE_2D, 0); }
+void TextureUnit::bind3DDefault() const { bindTexture(GL_TEXTURE_3D, 0); }
+void TextureUnit::bindRECTDefault() const { bindTexture(GL_TEXTURE_RECTANGLE_ARB, 0); }
+void TextureUnit::enable1D() const { enable(GL_TEXTURE_1D); }
+void TextureUnit::enable2D() const { enable(GL_TEXTURE_2D); }
+void TextureUnit::enable3D() const { enable(GL_TEXTURE_3D); }
+void TextureUnit::enableRECT() const { enable(GL_TEXTURE_RECTANGLE_ARB); }
+void TextureUnit::disable1D() const { disable(GL_TEXTURE_1D); }
+void TextureUnit::disable2D() const { disable(GL_TEXTURE_2D); }
+void TextureUnit::disable3D() const { disable(GL_TEXTURE_3D); }
+void TextureUnit::disableRECT() const { disable(GL_TEXTURE_RECTANGLE_ARB); }
+bool TextureUnit::isEnabled1D() const { return isEnabled(GL_TEXTURE_1D); }
+bool TextureUnit::isEnabled2D() const { return isEnabled(GL_TEXTURE_2D); }
+bool TextureUnit::isEnabled3D() const { return isEnabled(GL_TEXTURE_3D); }
+bool TextureUnit::isEnabledRECT() const { return isEnabled(GL_TEXTURE_RECTANGLE_ARB); }
 
 // ---------------------------------------------------------------------------
 // The texture environment: how the texture colour Ct combines with the
@@ -217,51 +168,29 @@ void TextureUnit::setEnv(Environment mode) const
     verifyActiveTexture();
     const GLint glMode = static_cast<GLint>(Environment2GL(mode));
     glTexEnvi(GL_TEXTURE_ENV, GL_TEXTURE_ENV_MODE, glMode);
+    ORU_CHECK_GL(TextureUnit);
 }
 
 namespace
 {
 
-struct EnvironmentRow
-{
-    TextureUnit::Environment environment;
-    GLenum gl;
+// Both directions refuse at the line of Environment2GL's refusal.
+const TwoWayTable<TextureUnit::Environment>::Row kEnvironmentRows[] = {
+    { TextureUnit::ADD, GL_ADD },           { TextureUnit::BLEND, GL_BLEND },
+    { TextureUnit::COMBINE, GL_COMBINE },   { TextureUnit::DECAL, GL_DECAL },
+    { TextureUnit::MODULATE, GL_MODULATE }, { TextureUnit::REPLACE, GL_REPLACE },
 };
-
-const EnvironmentRow kEnvironments[] = {
-    { TextureUnit::ADD, GL_ADD },           // 0x0104
-    { TextureUnit::BLEND, GL_BLEND },       // 0x0BE2
-    { TextureUnit::COMBINE, 0x8570 },       // GL_COMBINE
-    { TextureUnit::DECAL, GL_DECAL },       // 0x2101
-    { TextureUnit::MODULATE, GL_MODULATE }, // 0x2100
-    { TextureUnit::REPLACE, GL_REPLACE },   // 0x1E01
-};
+const TwoWayTable<TextureUnit::Environment> kEnvironments(kEnvironmentRows, __FILE__, kEnvironmentLine,
+                                                         "!\"Environment enums are not all properly translated.\"");
 
 } // namespace
 
-unsigned int TextureUnit::Environment2GL(Environment environment)
-{
-    for (EnvironmentRow const& row : kEnvironments)
-    {
-        if (row.environment == environment)
-            return row.gl;
-    }
-    ORU_VERIFY(!"Environment enums are not all properly translated.");
-    return 0;
-}
-
-// The exact inverse: only the six GL modes of the table translate back. A GL
-// value such as GL_REPLACE_EXT's twin, or any combiner mode, is refused with
-// the same text as an unknown enumeration value.
+unsigned int TextureUnit::Environment2GL(Environment environment) { return kEnvironments.toGL(environment); }
+// The exact inverse: only the six GL modes of the table translate back; any
+// combiner mode is refused with the same text as an unknown value.
 TextureUnit::Environment TextureUnit::GL2Environment(unsigned int environment)
 {
-    for (EnvironmentRow const& row : kEnvironments)
-    {
-        if (row.gl == environment)
-            return row.environment;
-    }
-    ORU_VERIFY(!"Environment enums are not all properly translated.");
-    return ADD;
+    return kEnvironments.fromGL(environment);
 }
 
 // Every operation of a unit starts here: without the table there is no layer,
@@ -277,7 +206,7 @@ TextureUnit::Environment TextureUnit::GL2Environment(unsigned int environment)
 void TextureUnit::verifyActiveTexture() const
 {
     if (nMaxTextureUnit_ == 0)
-        ORU_THROW("TextureUnit::Create() was not called (Singleton not created.)");
+        ORU_THROW_AT(kNotCreatedLine, "TextureUnit::Create() was not called (Singleton not created.)");
 }
 
 } // namespace OGL
@@ -309,12 +238,12 @@ void TextureUnit::bind(Texture2D* texture) const
 
 void TextureUnit::bind(Texture3D* texture) const
 {
-    bindTexture(kTexture3D, texture->objectID());
+    bindTexture(GL_TEXTURE_3D, texture->objectID());
 }
 
 void TextureUnit::bind(TextureRECT* texture) const
 {
-    bindTexture(kTextureRectangle, texture->objectID());
+    bindTexture(GL_TEXTURE_RECTANGLE_ARB, texture->objectID());
 }
 
 } // namespace OGL
