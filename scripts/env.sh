@@ -4,7 +4,7 @@
 
 ORU_ROOT=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 ORU_BUILD=${ORU_BUILD:-$ORU_ROOT/build}
-ORU_PACKAGES="cmake ninja-build python3 g++-mingw-w64-x86-64-posix wine64 xvfb xauth googletest libgl1 libgl1-mesa-dri libglx-mesa0"
+ORU_PACKAGES="cmake ninja-build python3 g++-mingw-w64-x86-64-posix clang wine64 xvfb xauth googletest libgl1 libgl1-mesa-dri libglx-mesa0 nlohmann-json3-dev libcli11-dev libstb-dev"
 
 oru_log() { printf '==> %s\n' "$*" >&2; }
 

@@ -60,7 +60,7 @@ BOOL oruReplaySwapLayerBuffers(HDC recorded, UINT planes);
 /// One recording compiled into a replay program (oru_add_replay writes it).
 struct OruReplayRecording
 {
-    char const* dataFile; ///< the binary file, the default of --data
+    char const* dataFile; ///< name of the binary file next to the program, the default of --data
     int width;            ///< default width of the replay's windows
     int height;           ///< default height of the replay's windows
     void (*calls)();      ///< the recorded calls
