@@ -23,10 +23,13 @@ public:
     virtual ~ExceptionBase();
 
     /// Source file of the check that raised the exception.
+    /// @return the file as its __FILE__ read, relative to the source root in this project's builds
     virtual char const* file() const = 0;
     /// Source line of the check that raised the exception.
+    /// @return the line number
     virtual int line() const = 0;
     /// The message alone, without file and line.
+    /// @return the message, valid while the exception lives
     virtual char const* message() const = 0;
 
 protected:
@@ -34,6 +37,7 @@ protected:
     /// Copies the exception.
     ExceptionBase(ExceptionBase const&) = default;
     /// Assigns another exception.
+    /// @return this exception
     ExceptionBase& operator=(ExceptionBase const&) = default;
 };
 
@@ -42,6 +46,9 @@ class ORU_CORE_API SourceReport
 {
 public:
     /// Keeps the file, line and message and composes "file(line): message".
+    /// @param file    source file of the check, as its __FILE__ (copied)
+    /// @param line    source line of the check
+    /// @param message why (copied)
     SourceReport(char const* file, int line, char const* message);
 
     /// Source file.
@@ -65,14 +72,19 @@ class ORU_CORE_API LogicalException : public ExceptionBase
 {
 public:
     /// An exception raised in file at line with message.
+    /// @param file    source file of the check, as its __FILE__ (copied)
+    /// @param line    source line of the check
+    /// @param message why (copied)
     LogicalException(char const* file, int line, char const* message);
     /// Copies the exception.
     LogicalException(LogicalException const&);
     /// Assigns another exception.
+    /// @return this exception
     LogicalException& operator=(LogicalException const&);
     virtual ~LogicalException();
 
     /// "file(line): message".
+    /// @return the whole report, valid while the exception lives
     char const* what() const noexcept override;
     char const* file() const override;
     int line() const override;
@@ -87,10 +99,14 @@ class ORU_CORE_API InternalException : public LogicalException
 {
 public:
     /// An exception raised in file at line with message.
+    /// @param file    source file of the check, as its __FILE__ (copied)
+    /// @param line    source line of the check
+    /// @param message why (copied)
     InternalException(char const* file, int line, char const* message);
     /// Copies the exception.
     InternalException(InternalException const&);
     /// Assigns another exception.
+    /// @return this exception
     InternalException& operator=(InternalException const&);
     virtual ~InternalException();
 };
@@ -100,10 +116,14 @@ class ORU_CORE_API ParameterException : public LogicalException
 {
 public:
     /// An exception raised in file at line with message.
+    /// @param file    source file of the check, as its __FILE__ (copied)
+    /// @param line    source line of the check
+    /// @param message why (copied)
     ParameterException(char const* file, int line, char const* message);
     /// Copies the exception.
     ParameterException(ParameterException const&);
     /// Assigns another exception.
+    /// @return this exception
     ParameterException& operator=(ParameterException const&);
     virtual ~ParameterException();
 };
@@ -113,14 +133,19 @@ class ORU_CORE_API ResourceException : public ExceptionBase
 {
 public:
     /// An exception raised in file at line with message.
+    /// @param file    source file of the check, as its __FILE__ (copied)
+    /// @param line    source line of the check
+    /// @param message why (copied)
     ResourceException(char const* file, int line, char const* message);
     /// Copies the exception.
     ResourceException(ResourceException const&);
     /// Assigns another exception.
+    /// @return this exception
     ResourceException& operator=(ResourceException const&);
     virtual ~ResourceException();
 
     /// "file(line): message".
+    /// @return the whole report, valid while the exception lives
     char const* what() const noexcept override;
     char const* file() const override;
     int line() const override;
@@ -135,17 +160,24 @@ class ORU_CORE_API CPURuntimeException : public ExceptionBase
 {
 public:
     /// An exception raised in file at line with message and the platform's error code (GetLastError()).
+    /// @param file    source file of the check, as its __FILE__ (copied)
+    /// @param line    source line of the check
+    /// @param message why (copied)
+    /// @param errorCode the platform's error code
     CPURuntimeException(char const* file, int line, char const* message, unsigned int errorCode);
     /// Copies the exception.
     CPURuntimeException(CPURuntimeException const&);
     /// Assigns another exception.
+    /// @return this exception
     CPURuntimeException& operator=(CPURuntimeException const&);
     virtual ~CPURuntimeException();
 
     /// The platform's error code.
+    /// @return the code given at construction
     unsigned int errorCode() const;
 
     /// "file(line): message".
+    /// @return the whole report, valid while the exception lives
     char const* what() const noexcept override;
     char const* file() const override;
     int line() const override;

@@ -19,6 +19,9 @@ struct Image
 
 /// Reads the RGBA pixels of the current read buffer, whatever the pixel-store
 /// state of the caller (it is saved and restored).
+/// @param width  pixels to read from the left edge
+/// @param height rows to read from the bottom
+/// @return the pixels, rows bottom-up
 Image readFramebuffer(unsigned int width, unsigned int height);
 
 /// Writes an 8-bit RGBA PNG (top row first, as PNG wants it).
@@ -37,6 +40,9 @@ bool readPng(std::string const& path, Image& image);
 
 /// Pixels that differ between two images of one size (every pixel when the
 /// sizes differ).
+/// @param a one image
+/// @param b the other
+/// @return the count of pixels whose four bytes are not all equal
 unsigned long long differingPixels(Image const& a, Image const& b);
 
 } // namespace Replay
