@@ -13,6 +13,12 @@ else()
 endif()
 add_compile_definitions(NOMINMAX WIN32_LEAN_AND_MEAN)
 
+# CI builds with a second compiler and takes any warning of it as a failure.
+option(ORU_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
+if(ORU_WARNINGS_AS_ERRORS)
+  add_compile_options("$<${ORU_COMPILERS}:$<IF:$<BOOL:${MSVC}>,/WX,-Werror>>")
+endif()
+
 function(oru_short_source_paths target)
   foreach(root IN LISTS ARGN)
     if(MSVC)
@@ -32,7 +38,7 @@ if(MINGW)
   set(ORU_MINGW_RUNTIME_DLLS "")
   foreach(dll libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
     if(ORU_MINGW_RUNTIME_DIRS)
-      find_file(dll_path ${dll} PATHS ${ORU_MINGW_RUNTIME_DIRS} NO_DEFAULT_PATH NO_CACHE)
+      find_file(dll_path ${dll} PATHS ${ORU_MINGW_RUNTIME_DIRS} NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH NO_CACHE)
     else()
       execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${dll}
                       OUTPUT_VARIABLE dll_path OUTPUT_STRIP_TRAILING_WHITESPACE)

@@ -23,11 +23,12 @@ set(CMAKE_RC_COMPILER ${ORU_MINGW_TRIPLET}-windres)
 set(CMAKE_SYSROOT ${ORU_MINGW_SYSROOT})
 
 # Clang does not find a GCC installation under this sysroot by itself: name
-# GCC's C++ headers and libraries, and link the thread library as GCC's posix
-# specs do.
-set(ORU_MINGW_CXX_INCLUDES
-  "-nostdinc++ -isystem ${ORU_MINGW_GCC_DIR}/include/c++ -isystem ${ORU_MINGW_GCC_DIR}/include/c++/${ORU_MINGW_TRIPLET} -isystem ${ORU_MINGW_GCC_DIR}/include/c++/backward")
-set(CMAKE_CXX_FLAGS_INIT "${ORU_MINGW_CXX_INCLUDES}")
+# GCC's C++ headers (ahead of the C headers, as libstdc++ wants) and libraries,
+# and link the thread library as GCC's posix specs do.
+set(CMAKE_CXX_STANDARD_INCLUDE_DIRECTORIES
+  ${ORU_MINGW_GCC_DIR}/include/c++
+  ${ORU_MINGW_GCC_DIR}/include/c++/${ORU_MINGW_TRIPLET}
+  ${ORU_MINGW_GCC_DIR}/include/c++/backward)
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-L${ORU_MINGW_GCC_DIR} -pthread")
 set(CMAKE_SHARED_LINKER_FLAGS_INIT "-L${ORU_MINGW_GCC_DIR} -pthread")
 set(CMAKE_MODULE_LINKER_FLAGS_INIT "-L${ORU_MINGW_GCC_DIR} -pthread")
