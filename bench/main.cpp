@@ -112,7 +112,7 @@ std::string markdown(Rows const& rows, std::string const& loadBefore, std::strin
     SYSTEM_INFO system;
     GetSystemInfo(&system);
     std::ostringstream out;
-    out << "# Benchmarks\n\n"
+    out << "# Benchmarks {#benchmarks}\n\n"
         << "What the layer costs, measured by `scripts/bench.sh` (program `bench/`). Each ratio compares variants\n"
         << "timed side by side in the same run: batches of each variant in turn (A, B, A, B, ...), the median\n"
         << "batch of each round, the median over rounds; a ratio is the median of the per-round ratios.\n"

@@ -13,6 +13,12 @@ else()
 endif()
 add_compile_definitions(NOMINMAX WIN32_LEAN_AND_MEAN)
 
+# CI builds with a second compiler and takes any warning of it as a failure.
+option(ORU_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
+if(ORU_WARNINGS_AS_ERRORS)
+  add_compile_options("$<${ORU_COMPILERS}:$<IF:$<BOOL:${MSVC}>,/WX,-Werror>>")
+endif()
+
 function(oru_short_source_paths target)
   foreach(root IN LISTS ARGN)
     if(MSVC)
@@ -24,18 +30,26 @@ function(oru_short_source_paths target)
 endfunction()
 
 # MinGW's runtime DLLs next to the programs, so that they run under Wine (or
-# on a Windows machine without MinGW) straight from the build tree.
+# on a Windows machine without MinGW) straight from the build tree. GCC names
+# them with -print-file-name; a toolchain whose compiler cannot (Clang with
+# GCC's runtime) lists their folders in ORU_MINGW_RUNTIME_DIRS.
+# ORU_MINGW_RUNTIME_DLLS: their paths; the package lists them for oru_ogl_deploy().
 if(MINGW)
   set(ORU_MINGW_RUNTIME_DLLS "")
   foreach(dll libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
-    execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${dll}
-                    OUTPUT_VARIABLE dll_path OUTPUT_STRIP_TRAILING_WHITESPACE)
+    if(ORU_MINGW_RUNTIME_DIRS)
+      find_file(dll_path ${dll} PATHS ${ORU_MINGW_RUNTIME_DIRS} NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH NO_CACHE)
+    else()
+      execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${dll}
+                      OUTPUT_VARIABLE dll_path OUTPUT_STRIP_TRAILING_WHITESPACE)
+    endif()
     if(IS_ABSOLUTE "${dll_path}" AND EXISTS "${dll_path}")
       file(COPY "${dll_path}" DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
       list(APPEND ORU_MINGW_RUNTIME_DLLS "${dll_path}")
     else()
       message(WARNING "MinGW runtime ${dll} not found; programs may not start outside a MinGW shell.")
     endif()
+    unset(dll_path)
   endforeach()
 endif()
 

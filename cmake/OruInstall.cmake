@@ -32,6 +32,11 @@ endfunction()
 # The export set and the package files; called once, after every library.
 function(oru_install_package)
   install(EXPORT oru_oglTargets NAMESPACE oru:: DESTINATION ${ORU_PACKAGE_DIR})
+  set(ORU_MINGW_RUNTIME_DLL_NAMES "")
+  foreach(dll IN LISTS ORU_MINGW_RUNTIME_DLLS)
+    get_filename_component(name "${dll}" NAME)
+    list(APPEND ORU_MINGW_RUNTIME_DLL_NAMES ${name})
+  endforeach()
   configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/oru_oglConfig.cmake.in
     ${CMAKE_BINARY_DIR}/package/oru_oglConfig.cmake
     INSTALL_DESTINATION ${ORU_PACKAGE_DIR})
@@ -41,9 +46,14 @@ function(oru_install_package)
   install(FILES ${CMAKE_BINARY_DIR}/package/oru_oglConfig.cmake
                 ${CMAKE_BINARY_DIR}/package/oru_oglConfigVersion.cmake
           DESTINATION ${ORU_PACKAGE_DIR})
-  # MinGW's runtime, so that the installed programs (and a consumer's, with
-  # bin/ on its DLL path) run on a machine without MinGW.
+  # MinGW's runtime beside the DLLs, so that the installed programs run on a
+  # machine without MinGW; the package names them for oru_ogl_deploy().
   if(ORU_MINGW_RUNTIME_DLLS)
     install(FILES ${ORU_MINGW_RUNTIME_DLLS} DESTINATION ${CMAKE_INSTALL_BINDIR})
   endif()
+  # oru_ogl_deploy(), and the toolchain files a consumer's cross build can use.
+  install(FILES ${PROJECT_SOURCE_DIR}/cmake/OruDeploy.cmake
+                ${PROJECT_SOURCE_DIR}/cmake/mingw-w64-x86_64-posix.cmake
+                ${PROJECT_SOURCE_DIR}/cmake/clang-mingw-w64-x86_64.cmake
+          DESTINATION ${ORU_PACKAGE_DIR})
 endfunction()

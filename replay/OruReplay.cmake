@@ -2,10 +2,11 @@
 #
 # Makes a program that replays one recording of OpenGLRekorder and wglRekorder:
 # the code file becomes the body of a function compiled against the replay
-# harness (oru_replay, with main() from oru_replay_main). DATA is the default of
-# the program's --data option and WIDTH x HEIGHT (256 x 256 unless given) the
-# default size of the windows it makes for recorded device contexts. The DLLs
-# the program needs are copied next to it.
+# harness (oru_replay, with main() from oru_replay_main). The DATA file is
+# copied next to the program, where its --data option looks by default (only
+# its name goes into the program: no build path); WIDTH x HEIGHT (256 x 256
+# unless given) is the default size of the windows it makes for recorded device
+# contexts. The DLLs the program needs are copied next to it (oru_ogl_deploy).
 function(oru_add_replay target)
   cmake_parse_arguments(R "" "CODE;DATA;WIDTH;HEIGHT" "" ${ARGN})
   if(NOT R_CODE OR NOT R_DATA)
@@ -18,7 +19,8 @@ function(oru_add_replay target)
     set(R_HEIGHT 256)
   endif()
   get_filename_component(ORU_REPLAY_CODE "${R_CODE}" ABSOLUTE)
-  get_filename_component(ORU_REPLAY_DATA "${R_DATA}" ABSOLUTE)
+  get_filename_component(data "${R_DATA}" ABSOLUTE)
+  get_filename_component(ORU_REPLAY_DATA "${R_DATA}" NAME)
   set(ORU_REPLAY_TARGET ${target})
   set(ORU_REPLAY_WIDTH ${R_WIDTH})
   set(ORU_REPLAY_HEIGHT ${R_HEIGHT})
@@ -41,7 +43,7 @@ function(oru_add_replay target)
   # The recorded text is #included: rebuild when it changes.
   set_source_files_properties(${unit} PROPERTIES OBJECT_DEPENDS ${ORU_REPLAY_CODE})
   add_custom_command(TARGET ${target} POST_BUILD
-    COMMAND ${CMAKE_COMMAND} -E copy_if_different $<TARGET_RUNTIME_DLLS:${target}> ${ORU_REPLAY_RUNTIME_DLLS}
-            $<TARGET_FILE_DIR:${target}>
-    COMMAND_EXPAND_LISTS)
+    COMMAND ${CMAKE_COMMAND} -E copy_if_different ${data} $<TARGET_FILE_DIR:${target}>/${ORU_REPLAY_DATA}
+    VERBATIM)
+  oru_ogl_deploy(${target})
 endfunction()

@@ -4,7 +4,7 @@
 
 ORU_ROOT=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 ORU_BUILD=${ORU_BUILD:-$ORU_ROOT/build}
-ORU_PACKAGES="cmake ninja-build python3 g++-mingw-w64-x86-64-posix wine64 xvfb xauth googletest libgl1 libgl1-mesa-dri libglx-mesa0"
+ORU_PACKAGES="cmake ninja-build python3 g++-mingw-w64-x86-64-posix clang wine64 xvfb xauth googletest libgl1 libgl1-mesa-dri libglx-mesa0 nlohmann-json3-dev libcli11-dev libstb-dev"
 
 oru_log() { printf '==> %s\n' "$*" >&2; }
 
@@ -37,6 +37,27 @@ oru_build() {
     oru_log "building"
     cmake --build "$ORU_BUILD" -- -k 0 | grep -vE '^\[[0-9]+/[0-9]+\]' || true
     cmake --build "$ORU_BUILD" >/dev/null
+}
+
+# The second compiler: Clang with MinGW-w64's headers and GCC's runtime, in
+# build-clang/, where any compiler or linker warning fails the build.
+oru_build_clang() {
+    local build="$ORU_ROOT/build-clang" log
+    log=$(mktemp)
+    if [ ! -f "$build/CMakeCache.txt" ]; then
+        oru_log "configuring $build"
+        cmake -S "$ORU_ROOT" -B "$build" -G Ninja \
+            -DCMAKE_TOOLCHAIN_FILE="$ORU_ROOT/cmake/clang-mingw-w64-x86_64.cmake" \
+            -DCMAKE_BUILD_TYPE=Release -DORU_WARNINGS_AS_ERRORS=ON >"$log" 2>&1 || true
+    fi
+    oru_log "building with Clang"
+    if ! cmake --build "$build" >>"$log" 2>&1 || grep -qi 'warning' "$log"; then
+        grep -iE -A3 'warning|error' "$log" >&2 || tail -n 40 "$log" >&2
+        rm -f "$log"
+        oru_log "the Clang build failed or warned"
+        return 1
+    fi
+    rm -f "$log"
 }
 
 oru_wine64() {

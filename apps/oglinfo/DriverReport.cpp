@@ -10,7 +10,6 @@
 
 #include "oru_core/Exceptions.h"
 
-#include <cstdio>
 #include <set>
 #include <sstream>
 
@@ -25,13 +24,19 @@ std::string glText(GLenum name)
     return text ? reinterpret_cast<char const*>(text) : "";
 }
 
-std::set<std::string> words(std::string const& text)
+std::vector<std::string> words(std::string const& text)
 {
-    std::set<std::string> result;
+    std::vector<std::string> result;
     std::istringstream in(text);
     for (std::string word; in >> word;)
-        result.insert(word);
+        result.push_back(word);
     return result;
+}
+
+// The GLSL version exists from OpenGL 2.0 on, or with GL_ARB_shading_language_100.
+std::string shadingLanguageVersion(bool supported)
+{
+    return supported ? glText(GL_SHADING_LANGUAGE_VERSION) : "";
 }
 
 char const* vendorClassName(ExtensionManager::teVendor vendor)
@@ -52,10 +57,10 @@ bool versionReaches(ExtensionManager* manager, unsigned int major, unsigned int 
     return manager->majorVersion() > major || (manager->majorVersion() == major && manager->minorVersion() >= minor);
 }
 
-DriverReport::PixelFormat tryPixelFormat(char const* name, BufferFormat::tePredefined predefined,
+DriverReport::ChosenPixelFormat tryPixelFormat(char const* name, BufferFormat::tePredefined predefined,
                                          Context::teBuffering buffering, Context::teMultisample samples)
 {
-    DriverReport::PixelFormat result = {};
+    DriverReport::ChosenPixelFormat result = {};
     std::ostringstream request;
     request << name << (buffering == Context::eDoubleBuffered ? ", double-buffered" : ", single-buffered") << ", "
             << static_cast<int>(samples) << (samples == 1 ? " sample" : " samples");
@@ -97,10 +102,20 @@ DriverReport gatherDriverReport()
     report.additionalInfo = manager->additionalVersionInfo();
     report.vendorClass = vendorClassName(manager->vendor());
 
-    const std::set<std::string> glNames = words(glText(GL_EXTENSIONS));
-    std::set<std::string> wglNames;
+    report.extensionsString = glText(GL_EXTENSIONS);
     if (_wcgmGetExtensionsStringARB)
-        wglNames = words(_wcgmGetExtensionsStringARB(wglGetCurrentDC()));
+        report.wglExtensionsString = _wcgmGetExtensionsStringARB(wglGetCurrentDC());
+    const std::vector<std::string> glList = words(report.extensionsString);
+    const std::vector<std::string> wglList = words(report.wglExtensionsString);
+    const std::set<std::string> glNames(glList.begin(), glList.end());
+    const std::set<std::string> wglNames(wglList.begin(), wglList.end());
+    for (std::string const& name : glList)
+        if (ExtensionCatalogue::glExtension(name.c_str()) == UNKNOWN_EXTENSION)
+            report.unknownExtensions.push_back(name);
+    for (std::string const& name : wglList)
+        if (ExtensionCatalogue::wglExtension(name.c_str()) == UNKNOWN_EXTENSION)
+            report.unknownExtensions.push_back(name);
+
     const unsigned int coreVersions[][2] = { { 1, 2 }, { 1, 3 }, { 1, 4 }, { 1, 5 }, { 2, 0 }, { 2, 1 } };
     for (unsigned int id = 0; id <= WGL_OML_SYNC_CONTROL; ++id)
     {
@@ -108,36 +123,41 @@ DriverReport gatherDriverReport()
         DriverReport::Extension row;
         row.id = id;
         row.name = ExtensionCatalogue::name(ext);
-        row.entryPoints = ExtensionCatalogue::entryPointCount(ext);
         if (id <= OPEN_GL_2_1)
             row.advertised = versionReaches(manager, coreVersions[id][0], coreVersions[id][1]);
         else
             row.advertised = (id < WGL_3DFX_MULTISAMPLE ? glNames : wglNames).count(row.name) != 0;
         row.loaded = manager->isSupported(ext);
-        if (row.advertised && !row.loaded)
+        for (unsigned int k = 0; k < ExtensionCatalogue::entryPointCount(ext); ++k)
         {
-            // Start-up loads core versions only for 1.x and 2.x drivers, and never 2.1.
+            char const* name = ExtensionCatalogue::entryPointName(ext, k);
+            row.entryPoints.push_back(
+                { name, ExtensionCatalogue::isEntryPointLoaded(ext, k), ExtensionCatalogue::resolve(name) != nullptr });
+        }
+        // Start-up loads core versions only for 1.x and 2.x drivers, and never 2.1.
+        if (row.advertised && !row.loaded && row.missingEntryPoints().empty())
+        {
             if (id == OPEN_GL_2_1)
                 row.note = "2.1 is not loaded at start-up";
             else if (id <= OPEN_GL_2_0 && report.major >= 3)
                 row.note = "core versions are not loaded for drivers reporting 3.0 or later";
-            else if (ExtensionCatalogue::missingEntryPoint(ext))
-                row.missingEntryPoint = ExtensionCatalogue::missingEntryPoint(ext);
         }
         report.extensions.push_back(row);
     }
+    report.shadingLanguageVersion = shadingLanguageVersion(
+        report.extensions[OPEN_GL_2_0].advertised || glNames.count("GL_ARB_shading_language_100") != 0);
 
     report.capabilities = {
-        { "clamp to edge", manager->supportsClampToEdge() },
-        { "multitexture", manager->supportsMultiTexture() },
-        { "draw buffers", manager->supportsDrawBuffers() },
-        { "3D textures", manager->supportsTexture3D() },
-        { "floating-point textures", manager->supportsFloatingPointTextures() },
-        { "non-power-of-two textures", manager->supportsNonPowerOfTwoTextures() },
-        { "render to texture", manager->supportsRenderToTexture() },
-        { "render to texture rectangle", manager->supportsRenderToTextureRectangle() },
-        { "pixel buffers", manager->supportsPixelBuffers() },
-        { "vertical retrace control", Context::supportsVerticalRetraceControl() },
+        { "clampToEdge", "clamp to edge", manager->supportsClampToEdge() },
+        { "multitexture", "multitexture", manager->supportsMultiTexture() },
+        { "drawBuffers", "draw buffers", manager->supportsDrawBuffers() },
+        { "texture3D", "3D textures", manager->supportsTexture3D() },
+        { "floatingPointTextures", "floating-point textures", manager->supportsFloatingPointTextures() },
+        { "nonPowerOfTwoTextures", "non-power-of-two textures", manager->supportsNonPowerOfTwoTextures() },
+        { "renderToTexture", "render to texture", manager->supportsRenderToTexture() },
+        { "renderToTextureRectangle", "render to texture rectangle", manager->supportsRenderToTextureRectangle() },
+        { "pixelBuffers", "pixel buffers", manager->supportsPixelBuffers() },
+        { "verticalRetraceControl", "vertical retrace control", Context::supportsVerticalRetraceControl() },
     };
     report.textureUnits = manager->numberOfTextureUnits();
 
@@ -165,7 +185,8 @@ DriverReport gatherDriverReport()
         // a limit the driver does not know leaves its error behind
     }
 
-    report.pixelFormats = {
+    report.pixelFormats = PixelFormatTable::read(wglGetCurrentDC());
+    report.chosenPixelFormats = {
         tryPixelFormat("eRGB8", BufferFormat::eRGB8, Context::eSingleBuffered, Context::eNoMultisample),
         tryPixelFormat("eRGBA8_S8D24", BufferFormat::eRGBA8_S8D24, Context::eDoubleBuffered, Context::eNoMultisample),
         tryPixelFormat("eRGBA8_S8D24", BufferFormat::eRGBA8_S8D24, Context::eDoubleBuffered, Context::e4Samples),
@@ -175,180 +196,13 @@ DriverReport gatherDriverReport()
     return report;
 }
 
-// ---------------------------------------------------------------------------
-// Output.
-// ---------------------------------------------------------------------------
-
-namespace
+std::vector<std::string> DriverReport::Extension::missingEntryPoints() const
 {
-
-unsigned int countIf(DriverReport const& report, bool wgl, bool (*predicate)(DriverReport::Extension const&))
-{
-    unsigned int count = 0;
-    for (DriverReport::Extension const& e : report.extensions)
-        count += ((e.id >= WGL_3DFX_MULTISAMPLE) == wgl && predicate(e)) ? 1 : 0;
-    return count;
+    std::vector<std::string> missing;
+    if (advertised)
+        for (EntryPoint const& entryPoint : entryPoints)
+            if (!entryPoint.available)
+                missing.push_back(entryPoint.name);
+    return missing;
 }
 
-void printHeader(DriverReport const& report)
-{
-    std::printf("oru_ogl        %s\n", report.layerVersion.c_str());
-    std::printf("GL_VENDOR      %s\n", report.vendor.c_str());
-    std::printf("GL_RENDERER    %s\n", report.renderer.c_str());
-    std::printf("GL_VERSION     %s\n", report.version.c_str());
-    std::printf("  parsed as    major %u, minor %u, ", report.major, report.minor);
-    if (report.hasRelease)
-        std::printf("release %u", report.release);
-    else
-        std::printf("no release");
-    std::printf(", additional info \"%s\"\n", report.additionalInfo.c_str());
-    std::printf("vendor class   %s\n", report.vendorClass.c_str());
-}
-
-void printCapabilities(DriverReport const& report)
-{
-    std::printf("\nCapabilities\n");
-    for (auto const& capability : report.capabilities)
-        std::printf("  %-28s %s\n", capability.first.c_str(), capability.second ? "yes" : "no");
-    std::printf("  %-28s %u\n", "texture units", report.textureUnits);
-    std::printf("\nLimits\n");
-    for (auto const& limit : report.limits)
-        std::printf("  %-36s %d\n", limit.first.c_str(), limit.second);
-}
-
-bool isAdvertised(DriverReport::Extension const& e) { return e.advertised; }
-bool isLoaded(DriverReport::Extension const& e) { return e.loaded; }
-bool isIncomplete(DriverReport::Extension const& e) { return e.advertised && !e.loaded; }
-
-} // namespace
-
-void printSummary(DriverReport const& report)
-{
-    printHeader(report);
-    std::printf("\nCatalogue      GL: %u advertised of %u, %u loaded; WGL: %u advertised of %u, %u loaded\n",
-                countIf(report, false, isAdvertised), catalogue::kFirstWGLExtensionId, countIf(report, false, isLoaded),
-                countIf(report, true, isAdvertised), catalogue::kExtensionIdCount - catalogue::kFirstWGLExtensionId,
-                countIf(report, true, isLoaded));
-    std::printf("Core versions  loaded:");
-    for (unsigned int id = 0; id <= OPEN_GL_2_1; ++id)
-    {
-        if (report.extensions[id].loaded)
-            std::printf(" %s", report.extensions[id].name.c_str() + 11);
-    }
-    std::printf("%s\n", countIf(report, false, [](DriverReport::Extension const& e) { return e.loaded && e.id <= OPEN_GL_2_1; })
-                             ? ""
-                             : " none");
-    for (DriverReport::Extension const& e : report.extensions)
-    {
-        if (!isIncomplete(e))
-            continue;
-        if (!e.missingEntryPoint.empty())
-            std::printf("  %s is advertised but lacks %s\n", e.name.c_str(), e.missingEntryPoint.c_str());
-        else if (!e.note.empty() && e.id == OPEN_GL_1_2)
-            std::printf("  (%s)\n", e.note.c_str());
-    }
-    printCapabilities(report);
-    std::printf("\n(--full lists every core version and extension and the pixel formats chosen; --json for scripts)\n");
-}
-
-void printFull(DriverReport const& report)
-{
-    printHeader(report);
-    printCapabilities(report);
-    std::printf("\nCore versions and extensions (id, name, entry points, advertised, loaded)\n");
-    for (DriverReport::Extension const& e : report.extensions)
-    {
-        std::printf("  %3u %-42s %3u  %-3s %-3s", e.id, e.name.c_str(), e.entryPoints, e.advertised ? "yes" : "-",
-                    e.loaded ? "yes" : "-");
-        if (!e.missingEntryPoint.empty())
-            std::printf("  lacks %s", e.missingEntryPoint.c_str());
-        else if (!e.note.empty())
-            std::printf("  (%s)", e.note.c_str());
-        std::printf("\n");
-    }
-    std::printf("\nPixel formats chosen for a window\n");
-    for (DriverReport::PixelFormat const& f : report.pixelFormats)
-    {
-        if (f.created)
-            std::printf("  %-48s format %3d: R%d G%d B%d A%d S%d D%d, %d samples\n", f.request.c_str(), f.index,
-                        f.red, f.green, f.blue, f.alpha, f.stencil, f.depth, f.samples);
-        else
-            std::printf("  %-48s not available: %s\n", f.request.c_str(), f.error.c_str());
-    }
-}
-
-namespace
-{
-
-std::string json(std::string const& text)
-{
-    std::string out = "\"";
-    for (unsigned char c : text)
-    {
-        if (c == '"' || c == '\\')
-            out += '\\', out += static_cast<char>(c);
-        else if (c < 0x20)
-        {
-            char escaped[8];
-            std::snprintf(escaped, sizeof(escaped), "\\u%04x", c);
-            out += escaped;
-        }
-        else
-            out += static_cast<char>(c);
-    }
-    return out + "\"";
-}
-
-char const* json(bool value)
-{
-    return value ? "true" : "false";
-}
-
-} // namespace
-
-void printJson(DriverReport const& report)
-{
-    std::printf("{\n  \"oruOglVersion\": %s,\n", json(report.layerVersion).c_str());
-    std::printf("  \"vendor\": %s,\n  \"renderer\": %s,\n  \"version\": %s,\n", json(report.vendor).c_str(),
-                json(report.renderer).c_str(), json(report.version).c_str());
-    std::printf("  \"parsedVersion\": {\"major\": %u, \"minor\": %u, \"release\": ", report.major, report.minor);
-    if (report.hasRelease)
-        std::printf("%u", report.release);
-    else
-        std::printf("null");
-    std::printf(", \"additionalInfo\": %s},\n", json(report.additionalInfo).c_str());
-    std::printf("  \"vendorClass\": %s,\n  \"textureUnits\": %u,\n", json(report.vendorClass).c_str(),
-                report.textureUnits);
-    std::printf("  \"capabilities\": {");
-    for (size_t i = 0; i < report.capabilities.size(); ++i)
-        std::printf("%s%s: %s", i ? ", " : "", json(report.capabilities[i].first).c_str(),
-                    json(report.capabilities[i].second));
-    std::printf("},\n  \"limits\": {");
-    for (size_t i = 0; i < report.limits.size(); ++i)
-        std::printf("%s%s: %d", i ? ", " : "", json(report.limits[i].first).c_str(), report.limits[i].second);
-    std::printf("},\n  \"extensions\": [\n");
-    for (size_t i = 0; i < report.extensions.size(); ++i)
-    {
-        DriverReport::Extension const& e = report.extensions[i];
-        std::printf("    {\"id\": %u, \"name\": %s, \"entryPoints\": %u, \"advertised\": %s, \"loaded\": %s, "
-                    "\"missingEntryPoint\": %s, \"note\": %s}%s\n",
-                    e.id, json(e.name).c_str(), e.entryPoints, json(e.advertised), json(e.loaded),
-                    e.missingEntryPoint.empty() ? "null" : json(e.missingEntryPoint).c_str(),
-                    e.note.empty() ? "null" : json(e.note).c_str(),
-                    i + 1 < report.extensions.size() ? "," : "");
-    }
-    std::printf("  ],\n  \"pixelFormats\": [\n");
-    for (size_t i = 0; i < report.pixelFormats.size(); ++i)
-    {
-        DriverReport::PixelFormat const& f = report.pixelFormats[i];
-        std::printf("    {\"request\": %s, \"created\": %s", json(f.request).c_str(), json(f.created));
-        if (f.created)
-            std::printf(", \"index\": %d, \"red\": %d, \"green\": %d, \"blue\": %d, \"alpha\": %d, \"stencil\": %d, "
-                        "\"depth\": %d, \"samples\": %d",
-                        f.index, f.red, f.green, f.blue, f.alpha, f.stencil, f.depth, f.samples);
-        else
-            std::printf(", \"error\": %s", json(f.error).c_str());
-        std::printf("}%s\n", i + 1 < report.pixelFormats.size() ? "," : "");
-    }
-    std::printf("  ]\n}\n");
-}

@@ -170,6 +170,7 @@ void drawScene()
 // Binary, so that the files hold the very bytes written ("\n" line ends), and
 // with a large buffer: the tracer and the recorder write once per call, and
 // the toolchain's default buffer would make most of those writes system calls.
+// [streams]
 bool open(std::ofstream& file, std::string const& path, std::vector<char>& buffer)
 {
     buffer.resize(1 << 20);
@@ -177,6 +178,7 @@ bool open(std::ofstream& file, std::string const& path, std::vector<char>& buffe
     file.open(path, std::ios::binary);
     return bool(file);
 }
+// [streams]
 
 int run(std::string const& folder)
 {
@@ -198,6 +200,7 @@ int run(std::string const& folder)
     }
     const HDC dc = window.deviceContext();
 
+    // [wgl chain]
     // Context set-up through the WGL chain, recorded into the same code.
     OGL::wglRekorder wglRecorder(code, data, dc, nullptr, true);
     OGL::wglInterceptor::Instance()->addInterceptor(&wglRecorder);
@@ -208,17 +211,20 @@ int run(std::string const& folder)
         std::fprintf(stderr, "recorddemo: cannot create an OpenGL context\n");
         return 1;
     }
+    // [wgl chain]
     if (!OGL::ExtensionCatalogue::loadGL(OGL::OPEN_GL_1_3))
     {
         std::fprintf(stderr, "recorddemo: OpenGL 1.3 is required\n");
         return 1;
     }
 
+    // [gl chain]
     // The GL chain: tracer on top, then the recorder, then the error checker.
     OGL::OpenGLRekorder recorder(code, data, nullptr, true);
     OGL::OpenGLTracer tracer(trace);
     OGL::OpenGLInterceptor::Instance()->addInterceptor(&recorder);
     OGL::OpenGLInterceptor::Instance()->addInterceptor(&tracer);
+    // [gl chain]
 
     Oru::Replay::Image frame;
     frame.width = frame.height = kSize;
@@ -236,8 +242,10 @@ int run(std::string const& folder)
         std::fprintf(stderr, "recorddemo: %s\n", e.what());
         status = 1;
     }
+    // [pop]
     OGL::OpenGLInterceptor::Instance()->popInterceptor();
     OGL::OpenGLInterceptor::Instance()->popInterceptor();
+    // [pop]
 
     wgl->wcgmMakeCurrent(__FILE__, __LINE__, dc, nullptr);
     wgl->wcgmDeleteContext(__FILE__, __LINE__, context);

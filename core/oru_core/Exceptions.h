@@ -25,6 +25,7 @@ public:
     /// Copies the exception.
     ExceptionBase(ExceptionBase const&) = default;
     /// Assigns another exception.
+    /// @return this exception
     ExceptionBase& operator=(ExceptionBase const&) = default;
     virtual ~ExceptionBase();
 
@@ -43,6 +44,9 @@ class ORU_CORE_API SourceReport
 {
 public:
     /// Keeps the file, line and message and composes "file(line): message".
+    /// @param file    source file of the check, as its __FILE__ (copied)
+    /// @param line    source line of the check
+    /// @param message why (copied)
     SourceReport(char const* file, int line, char const* message);
 
     /// Source file.
@@ -66,14 +70,19 @@ class ORU_CORE_API LogicalException : public ExceptionBase
 {
 public:
     /// An exception raised in file at line with message.
+    /// @param file    source file of the check, as its __FILE__ (copied)
+    /// @param line    source line of the check
+    /// @param message why (copied)
     LogicalException(char const* file, int line, char const* message);
     /// Copies the exception.
     LogicalException(LogicalException const&);
     /// Assigns another exception.
+    /// @return this exception
     LogicalException& operator=(LogicalException const&);
     virtual ~LogicalException();
 
     /// "file(line): message".
+    /// @return the whole report, valid while the exception lives
     char const* what() const noexcept override;
     char const* file() const override;
     int line() const override;
@@ -88,10 +97,14 @@ class ORU_CORE_API InternalException : public LogicalException
 {
 public:
     /// An exception raised in file at line with message.
+    /// @param file    source file of the check, as its __FILE__ (copied)
+    /// @param line    source line of the check
+    /// @param message why (copied)
     InternalException(char const* file, int line, char const* message);
     /// Copies the exception.
     InternalException(InternalException const&);
     /// Assigns another exception.
+    /// @return this exception
     InternalException& operator=(InternalException const&);
     virtual ~InternalException();
 };
@@ -101,10 +114,14 @@ class ORU_CORE_API ParameterException : public LogicalException
 {
 public:
     /// An exception raised in file at line with message.
+    /// @param file    source file of the check, as its __FILE__ (copied)
+    /// @param line    source line of the check
+    /// @param message why (copied)
     ParameterException(char const* file, int line, char const* message);
     /// Copies the exception.
     ParameterException(ParameterException const&);
     /// Assigns another exception.
+    /// @return this exception
     ParameterException& operator=(ParameterException const&);
     virtual ~ParameterException();
 };
@@ -114,14 +131,19 @@ class ORU_CORE_API ResourceException : public ExceptionBase
 {
 public:
     /// An exception raised in file at line with message.
+    /// @param file    source file of the check, as its __FILE__ (copied)
+    /// @param line    source line of the check
+    /// @param message why (copied)
     ResourceException(char const* file, int line, char const* message);
     /// Copies the exception.
     ResourceException(ResourceException const&);
     /// Assigns another exception.
+    /// @return this exception
     ResourceException& operator=(ResourceException const&);
     virtual ~ResourceException();
 
     /// "file(line): message".
+    /// @return the whole report, valid while the exception lives
     char const* what() const noexcept override;
     char const* file() const override;
     int line() const override;
@@ -136,17 +158,24 @@ class ORU_CORE_API CPURuntimeException : public ExceptionBase
 {
 public:
     /// An exception raised in file at line with message and the platform's error code (GetLastError()).
+    /// @param file    source file of the check, as its __FILE__ (copied)
+    /// @param line    source line of the check
+    /// @param message why (copied)
+    /// @param errorCode the platform's error code
     CPURuntimeException(char const* file, int line, char const* message, unsigned int errorCode);
     /// Copies the exception.
     CPURuntimeException(CPURuntimeException const&);
     /// Assigns another exception.
+    /// @return this exception
     CPURuntimeException& operator=(CPURuntimeException const&);
     virtual ~CPURuntimeException();
 
     /// The platform's error code.
+    /// @return the code given at construction
     unsigned int errorCode() const;
 
     /// "file(line): message".
+    /// @return the whole report, valid while the exception lives
     char const* what() const noexcept override;
     char const* file() const override;
     int line() const override;

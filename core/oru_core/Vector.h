@@ -16,6 +16,7 @@ struct float2
 
     float2() : x(0.0f), y(0.0f) {}
     /// Every component set to v.
+    /// @param v the value of each component
     float2(float v) : x(v), y(v) {}
     /// The components in order.
     float2(float x_, float y_) : x(x_), y(y_) {}
@@ -32,6 +33,7 @@ struct float3
 
     float3() : x(0.0f), y(0.0f), z(0.0f) {}
     /// Every component set to v.
+    /// @param v the value of each component
     float3(float v) : x(v), y(v), z(v) {}
     /// The components in order.
     float3(float x_, float y_, float z_) : x(x_), y(y_), z(z_) {}
@@ -49,13 +51,18 @@ struct float4
 
     float4() : x(0.0f), y(0.0f), z(0.0f), w(0.0f) {}
     /// Every component set to v.
+    /// @param v the value of each component
     float4(float v) : x(v), y(v), z(v), w(v) {}
     /// The components in order.
     float4(float x_, float y_, float z_, float w_) : x(x_), y(y_), z(z_), w(w_) {}
 
     /// Component i (0 to 3).
+    /// @param i the component's index; not checked
+    /// @return the component
     float& operator[](std::size_t i) { return (&x)[i]; }
     /// Component i (0 to 3).
+    /// @param i the component's index; not checked
+    /// @return the component
     float const& operator[](std::size_t i) const { return (&x)[i]; }
 };
 

@@ -51,6 +51,7 @@ void drawQuad()
 
 // The layer's GLSL wrapper: compile, link (throws with the driver's log),
 // make current, set the uniform, draw.
+// [program]
 void paintWithProgram()
 {
     const char* vertex = kVertexShader;
@@ -64,10 +65,12 @@ void paintWithProgram()
     drawQuad();
     program.disable();
 }
+// [program]
 
 // A driver that reports OpenGL 3.0 or later gets no core-version mark from
 // the layer, so its GLSL wrappers refuse; the 2.0 functions are still there.
 // ExtensionManager::initialize() fetches them, and checked calls do the rest.
+// [initialize 2.0]
 void paintWithCheckedCalls()
 {
     check(ExtensionManager::Instance()->initialize(OPEN_GL_2_0), "the driver lacks OpenGL 2.0 functions");
@@ -92,6 +95,7 @@ void paintWithCheckedCalls()
     ORU_GL glUseProgram(0);
     ORU_GL glDeleteProgram(program);
 }
+// [initialize 2.0]
 
 } // namespace
 
@@ -102,6 +106,7 @@ int main(int argc, char** argv)
     const bool compatibilityCoreVersions = argc > 1 && std::string(argv[1]) == "--compatibility-core-versions";
     try
     {
+        // [start]
         // 1. A context on a hidden window of the layer's own. Creating it does
         //    not make it current.
         ContextOffscreen context;
@@ -117,6 +122,7 @@ int main(int argc, char** argv)
         ExtensionManager* manager = ExtensionManager::Instance();
         std::printf("started on OpenGL %u.%u %s\n", manager->majorVersion(), manager->minorVersion(),
                     manager->additionalVersionInfo().c_str());
+        // [start]
 
         // 3. An 8 x 8 RGBA texture as the colour attachment of a framebuffer
         //    object; attach() throws if the framebuffer is not complete.
@@ -162,6 +168,7 @@ int main(int argc, char** argv)
         std::printf("read back %d x %d pixels of RGBA %u %u %u %u\n", size, size, pixels[0], pixels[1], pixels[2],
                     pixels[3]);
 
+        // [checked call]
         // 6. A GL error in a checked call becomes an ExceptionOGL that names
         //    the file and line of the call: 0 is no capability of glEnable.
         int callLine = 0;
@@ -178,6 +185,7 @@ int main(int argc, char** argv)
             check(std::string(e.file()).find("main.cpp") != std::string::npos, "the exception names another file");
             check(e.errorNumber() == GL_INVALID_ENUM, "the error is not GL_INVALID_ENUM");
         }
+        // [checked call]
         Library::terminateExtensionator();
     }
     catch (Oru::ExceptionBase const& e)

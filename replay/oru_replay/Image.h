@@ -19,19 +19,30 @@ struct Image
 
 /// Reads the RGBA pixels of the current read buffer, whatever the pixel-store
 /// state of the caller (it is saved and restored).
+/// @param width  pixels to read from the left edge
+/// @param height rows to read from the bottom
+/// @return the pixels, rows bottom-up
 Image readFramebuffer(unsigned int width, unsigned int height);
 
-/// Writes an 8-bit RGBA PNG (top row first, as PNG wants it). The image data
-/// is stored uncompressed: no library beyond the standard one is needed, and
-/// readPng reads it back.
+/// Writes an 8-bit RGBA PNG (top row first, as PNG wants it).
+/// @param path  the file to write, replaced if it exists
+/// @param image the pixels; width * height * 4 bytes, neither size 0
+/// @return false when the image is empty or inconsistent or the file cannot
+///         be written
 bool writePng(std::string const& path, Image const& image);
 
-/// Reads a PNG written by writePng: 8-bit RGBA, not interlaced, deflate with
-/// stored blocks only. False for anything else.
+/// Reads a PNG of any colour type and bit depth, converted to 8-bit RGBA
+/// (rows bottom-up, as writePng takes them).
+/// @param path  the file to read
+/// @param image receives the pixels; left unchanged on failure
+/// @return false when the file cannot be read or is not a valid PNG
 bool readPng(std::string const& path, Image& image);
 
 /// Pixels that differ between two images of one size (every pixel when the
 /// sizes differ).
+/// @param a one image
+/// @param b the other
+/// @return the count of pixels whose four bytes are not all equal
 unsigned long long differingPixels(Image const& a, Image const& b);
 
 } // namespace Replay

@@ -23,10 +23,14 @@ struct RecordedFloat
     operator int() const { return static_cast<int>(value); }
 };
 
+/// The float whose bit pattern the recorder wrote as an int.
+/// @param bits the float's bits, as the recording spells them
+/// @return the very float
 RecordedFloat makeFloat(int bits);
 
 /// A call that the recorder could not capture (pointer data without a recording
 /// of its own): reported on the standard error stream and counted.
+/// @param message the recorder's text naming the call
 void OpenGLRekorderUnsupported(char const* message);
 
 /// The recording's binary side file, opened by the replay program.
@@ -40,12 +44,19 @@ extern HDC hDC_Ours;
 /// The application's DC when recording began: the replay makes a window and a
 /// context for it and makes them current, since the recording may start with
 /// GL calls on a context that was already current.
+/// @param recorded the application's DC as recorded
 void addCurrentAppDC(HDC recorded);
 /// Makes a window of the replay's size for a recorded DC, unless there is one.
+/// @param recorded the DC as recorded
 void GLRekorderCreateWindow(HDC recorded);
 /// wglMakeCurrent on the replay's own DC and context.
+/// @param recorded        the DC as recorded
+/// @param recordedContext the context as recorded, null to release
+/// @return what wglMakeCurrent returned
 BOOL GLRekorderMakeCurrent(HDC recorded, HGLRC recordedContext);
 /// Keeps the frame being presented (the replay's result), then presents it.
+/// @param recorded the DC as recorded
+/// @return what SwapBuffers returned
 BOOL GLRekorderSwapBuffers(HDC recorded);
 
 // The other recorded WGL calls name handles of the recording; the prelude of a
@@ -60,7 +71,7 @@ BOOL oruReplaySwapLayerBuffers(HDC recorded, UINT planes);
 /// One recording compiled into a replay program (oru_add_replay writes it).
 struct OruReplayRecording
 {
-    char const* dataFile; ///< the binary file, the default of --data
+    char const* dataFile; ///< name of the binary file next to the program, the default of --data
     int width;            ///< default width of the replay's windows
     int height;           ///< default height of the replay's windows
     void (*calls)();      ///< the recorded calls

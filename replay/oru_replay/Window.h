@@ -18,6 +18,9 @@ class Window
 {
 public:
     /// A hidden window with a client area of width x height and a pixel format set.
+    /// Never throws: valid() and error() tell whether it was made.
+    /// @param width  client width in pixels
+    /// @param height client height in pixels
     Window(int width, int height);
     ~Window();
     Window(Window const&) = delete;

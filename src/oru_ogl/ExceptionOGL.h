@@ -15,14 +15,20 @@ class ORU_OGL_API ExceptionOGL : public LogicalException
 {
 public:
     /// The caller's file and line, the text of the GL error and its number.
+    /// @param file        the caller's source file, as its __FILE__
+    /// @param line        the caller's line
+    /// @param message     the text of the error (gluErrorString)
+    /// @param errorNumber the value glGetError returned
     ExceptionOGL(char const* file, unsigned int line, char const* message, unsigned int errorNumber);
     /// Copies the exception.
     ExceptionOGL(ExceptionOGL const& other);
     /// Assigns another exception.
+    /// @return this exception
     ExceptionOGL& operator=(ExceptionOGL const& other);
     virtual ~ExceptionOGL();
 
     /// The value glGetError returned (0 for an unbalanced glBegin or glEnd).
+    /// @return the GL error number, GL_INVALID_ENUM say
     unsigned int errorNumber() const;
 
 private:

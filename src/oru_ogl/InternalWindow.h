@@ -18,12 +18,20 @@ namespace OGL
 class ORU_OGL_API InternalWindow
 {
 public:
+    /// Registers the window class and creates the hidden window.
+    /// @throws Oru::InternalException "Unable to register window class" or
+    ///         "Unable to create window" (from InternalWindow); a failed
+    ///         window leaves no class registered
     InternalWindow();
+    /// Destroys the window and unregisters its class.
+    /// @throws Oru::InternalException "hDC != 0", "Unable to release the device
+    ///         context" or "Unable to unregister window class" (from InternalWindow)
     ~InternalWindow() noexcept(false);
     InternalWindow(InternalWindow const&) = delete;
     InternalWindow& operator=(InternalWindow const&) = delete;
 
     /// The window.
+    /// @return the hidden window's handle, valid while this object lives
     HWND handle() const { return hWnd_; }
 
 private:

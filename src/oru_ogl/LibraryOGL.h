@@ -21,14 +21,24 @@ class ORU_OGL_API Library
 public:
     /// Builds the extension manager for the context (which is made current) and
     /// the texture-unit table. Refuses a null context and a second start.
+    /// @param pContext the context to start the layer for; stays the caller's
+    /// @param options  stored and handed back by ExtensionManager::initOptions()
+    /// @throws Oru::InternalException "Enforce pContext != NULL" for a null
+    ///         context, "!bExtensionatorInitialized_" when the layer is already
+    ///         started (both from LibraryOGL), and the extension manager's and
+    ///         the texture-unit table's refusals while they are built
     static void initializeExtensionator(Context* pContext, ExtensionManager::InitOptions const& options);
     /// Destroys the extension manager, then the texture-unit table. Refuses a
     /// shutdown without start-up.
+    /// @throws Oru::InternalException "bExtensionatorInitialized_" (from
+    ///         LibraryOGL) when the layer is not started
     static void terminateExtensionator();
     /// Whether the layer is started.
+    /// @return true between initializeExtensionator() and terminateExtensionator()
     static bool isExtensionatorInitialized();
 
     /// Library has no state of its own to assign.
+    /// @return this object
     Library& operator=(Library const&);
 
 private:
@@ -41,7 +51,13 @@ class ORU_OGL_API AutoInitializer
 {
 public:
     /// Starts the layer for the context with default options; refuses a null context and a second start.
+    /// @param pContext the context to start the layer for; stays the caller's
+    /// @throws Oru::InternalException "Enforce pContext != NULL" for a null
+    ///         context, and whatever Library::initializeExtensionator() throws
     explicit AutoInitializer(Context* pContext);
+    /// Stops the layer, unless release() was called.
+    /// @throws Oru::InternalException "bExtensionatorInitialized_" when the
+    ///         layer was already stopped by hand
     ~AutoInitializer() noexcept(false);
     AutoInitializer(AutoInitializer const&) = delete;
     AutoInitializer& operator=(AutoInitializer const&) = delete;

@@ -35,7 +35,7 @@ public:
     /// The error checker when it is the whole chain (no decorator pushed), else
     /// null. Call sites use it to do the checker's work without a virtual call
     /// (defined inline in OpenGLErrorChecker.h).
-    static OpenGLErrorChecker* loneChecker();
+    static inline OpenGLErrorChecker* loneChecker();
 
     /// Deletes the default error checker. Every decorator must have been popped.
     static void destroy();

@@ -57,7 +57,7 @@ private:
                           long long number) const;
 
     std::ostream* outputStream_;
-    std::ostream* binaryOutputStream_;
+    [[maybe_unused]] std::ostream* binaryOutputStream_; // no recorded WGL call writes to it
     bool lineComments_;
 };
 
