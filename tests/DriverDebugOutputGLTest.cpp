@@ -7,7 +7,7 @@
 #include "oru_ogl/extensionator/ExtensionCatalogue.h"
 #include "oru_ogl/extensionator/GLCall.h"
 #include "oru_ogl/ogl/ContextOffscreen.h"
-#include "oru_ogl/testing/ForwardingDecorator.h"
+#include "support/ForwardingDecorator.h"
 
 #include "support/Raises.h"
 

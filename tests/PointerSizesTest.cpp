@@ -16,7 +16,7 @@ using Oru::OGL::kUnknownBytes;
 namespace
 {
 
-const unsigned int kRgb = 0x1907, kRgba = 0x1908, kColorIndex = 0x1900, kBitmap = 0x1A00;
+const unsigned int kRgb = 0x1907, kRgba = 0x1908;
 const unsigned int kUnsignedByte = 0x1401, kShort = 0x1402, kUnsignedShort = 0x1403, kFloat = 0x1406;
 const unsigned int kUnsignedShort565 = 0x8363, k3Bytes = 0x1408;
 

@@ -48,6 +48,9 @@ struct ExtensionManagerTestAccess
     {
         return ExtensionManager::NonPowerOfTwoFlag(vendor, arb, gl20);
     }
+
+    // The manager's creation without the checks that Library makes first.
+    static void create(Context* context) { ExtensionManager::Create(context, ExtensionManager::InitOptions()); }
 };
 
 } // namespace OGL
@@ -170,6 +173,8 @@ TEST(StartupTest, RefusalsBeforeStartUp)
           raisedBy([] { ExtensionManager::Instance(); }) },
         { Raised::at("LibraryOGL.cpp", 56, "Enforce pContext != NULL"),
           raisedBy([] { Library::initializeExtensionator(nullptr, ExtensionManager::InitOptions()); }) },
+        { Raised::at("extensionator/ExtensionManager.cpp", 556, "Enforce pContext != NULL"),
+          raisedBy([] { Access::create(nullptr); }) },
         { Raised::at("LibraryOGL.cpp", 121, "bExtensionatorInitialized_"),
           raisedBy([] { Library::terminateExtensionator(); }) },
         { Raised::at("LibraryOGL.cpp", 138, "Enforce pContext != NULL"),

@@ -17,7 +17,8 @@
 //
 // Where the line a check reports is fixed by callers who match on it, and the
 // code around it moves, the _AT forms take that line as a named constant:
-// ORU_VERIFY_AT(kLinkLine, expr) and ORU_THROW_AT(kLinkLine, a << b).
+// ORU_ENFORCE_AT(kLine, expr), ORU_VERIFY_AT(kLinkLine, expr) and
+// ORU_THROW_AT(kLinkLine, a << b).
 
 #include "oru_ogl/OglExport.h"
 
@@ -48,6 +49,9 @@ namespace detail
 
 #define ORU_THROW(streamed) \
     do { std::ostringstream oruText_; oruText_ << streamed; ::Oru::OGL::detail::raiseInternal(__FILE__, __LINE__, oruText_.str()); } while (0)
+
+#define ORU_ENFORCE_AT(line, expr) \
+    do { if (!(expr)) ::Oru::OGL::detail::raiseInternal(__FILE__, line, "Enforce " #expr); } while (0)
 
 #define ORU_VERIFY_AT(line, expr) \
     do { if (!(expr)) ::Oru::OGL::detail::raiseInternal(__FILE__, line, #expr); } while (0)

@@ -570,8 +570,8 @@ ExtensionManager::ExtensionManager(Context* pContext, InitOptions const& options
     , bNonPowerOfTwo_(false)
     , options_(options)
 {
-    // Whatever throwOnNullContext() says: without a context there is nothing to read.
-    ORU_ENFORCE(pContext != NULL);
+    const int kNullContextLine = 556; // whatever throwOnNullContext() says: no context, nothing to read
+    ORU_ENFORCE_AT(kNullContextLine, pContext != NULL);
     pContext->makeCurrent();
     supported_.assign(UNKNOWN_EXTENSION, false); // every id is below it
 

@@ -539,66 +539,50 @@ void OpenGLRekorder::cgmGetObjectParameterivARB(const char* file, unsigned int l
     return pInterceptor_->cgmGetObjectParameterivARB(file, line, obj, pname, params);
 }
 
-void OpenGLRekorder::cgmGetTexLevelParameterfv(const char* file, unsigned int line, GLenum target, GLint level,
-                                               GLenum pname, GLfloat* params)
+// A query of one value: the replay asks into a variable of its own.
+template <class... Kinds, class... Values>
+void OpenGLRekorder::recordScratchValue(char const* file, unsigned int line, char const* element, char const* glName,
+                                        Values... values)
 {
     CallText t(*outputStream_);
-    t.put("{\n    GLfloat data;\n    glGetTexLevelParameterfv(");
-    t.enumName(target);
-    t.put(", ");
-    t.signedNumber(level);
-    t.put(", ");
-    t.enumName(pname);
+    t.put("{\n    ");
+    t.cString(element);
+    t.put(" data;\n    ");
+    t.cString(glName);
+    t.character('(');
+    detail::writeArguments<Kinds...>(t, values...);
     t.put(", &data);");
     lineEnd(t, file, line);
     t.put("}\n");
     t.send();
+}
+
+void OpenGLRekorder::cgmGetTexLevelParameterfv(const char* file, unsigned int line, GLenum target, GLint level,
+                                               GLenum pname, GLfloat* params)
+{
+    recordScratchValue<EnumName, SignedNumber, EnumName>(file, line, "GLfloat", "glGetTexLevelParameterfv", target,
+                                                         level, pname);
     return pInterceptor_->cgmGetTexLevelParameterfv(file, line, target, level, pname, params);
 }
 
 void OpenGLRekorder::cgmGetTexLevelParameteriv(const char* file, unsigned int line, GLenum target, GLint level,
                                                GLenum pname, GLint* params)
 {
-    CallText t(*outputStream_);
-    t.put("{\n    GLint data;\n    glGetTexLevelParameteriv(");
-    t.enumName(target);
-    t.put(", ");
-    t.signedNumber(level);
-    t.put(", ");
-    t.enumName(pname);
-    t.put(", &data);");
-    lineEnd(t, file, line);
-    t.put("}\n");
-    t.send();
+    recordScratchValue<EnumName, SignedNumber, EnumName>(file, line, "GLint", "glGetTexLevelParameteriv", target,
+                                                         level, pname);
     return pInterceptor_->cgmGetTexLevelParameteriv(file, line, target, level, pname, params);
 }
 
 void OpenGLRekorder::cgmGetProgramiv(const char* file, unsigned int line, GLuint program, GLenum pname,
                                      GLint* params)
 {
-    CallText t(*outputStream_);
-    t.put("{\n    int data;\n    glGetProgramiv(");
-    t.unsignedNumber(program);
-    t.put(", ");
-    t.enumName(pname);
-    t.put(", &data);");
-    lineEnd(t, file, line);
-    t.put("}\n");
-    t.send();
+    recordScratchValue<UnsignedNumber, EnumName>(file, line, "int", "glGetProgramiv", program, pname);
     return pInterceptor_->cgmGetProgramiv(file, line, program, pname, params);
 }
 
 void OpenGLRekorder::cgmGetShaderiv(const char* file, unsigned int line, GLuint shader, GLenum pname, GLint* params)
 {
-    CallText t(*outputStream_);
-    t.put("{\n    int data;\n    glGetShaderiv(");
-    t.unsignedNumber(shader);
-    t.put(", ");
-    t.enumName(pname);
-    t.put(", &data);");
-    lineEnd(t, file, line);
-    t.put("}\n");
-    t.send();
+    recordScratchValue<UnsignedNumber, EnumName>(file, line, "int", "glGetShaderiv", shader, pname);
     return pInterceptor_->cgmGetShaderiv(file, line, shader, pname, params);
 }
 

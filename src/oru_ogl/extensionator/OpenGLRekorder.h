@@ -89,6 +89,9 @@ private:
                                void (*program)(detail::CallText&, GLuint), GLuint object);
     void recordShaderSource(char const* file, unsigned int line, bool arb, GLuint shader, GLsizei count,
                             GLchar const* const* strings, GLint const* lengths);
+    template <class... Kinds, class... Values>
+    void recordScratchValue(char const* file, unsigned int line, char const* element, char const* glName,
+                            Values... values);
     void recordScratchArray(char const* glName, char const* file, unsigned int line, char const* element,
                             bool arbObject, GLuint object, GLenum pname);
     void recordFloatVector(char const* glName, char const* file, unsigned int line, bool hasTarget, GLenum target,
