@@ -43,11 +43,11 @@ public:
     /// One message as the driver gave it.
     struct Message
     {
-        GLenum source;
-        GLenum type;
-        GLuint id;
-        teSeverity severity;
-        std::string text;
+        GLenum source;        ///< GL_DEBUG_SOURCE_...
+        GLenum type;          ///< GL_DEBUG_TYPE_...
+        GLuint id;            ///< the driver's own number of the message
+        teSeverity severity;  ///< its severity
+        std::string text;     ///< the driver's text
     };
 
     /// Receives the messages that are not errors, with the checked call's file and line.

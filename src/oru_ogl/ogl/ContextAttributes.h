@@ -22,8 +22,9 @@ public:
     /// Version major.minor, compatibility profile, no debug flag.
     ContextAttributes(int major, int minor);
 
-    /// The version asked for.
+    /// The major number of the version asked for.
     int majorVersion() const;
+    /// The minor number of the version asked for.
     int minorVersion() const;
     /// Compatibility profile (true) or core profile (false); asked only from 3.2 on.
     void setCompatibilityProfile(bool value);
