@@ -1,10 +1,9 @@
 # Cross-compiles for Windows x86-64 with Clang, on MinGW-w64's headers and
 # libraries and GCC's posix-thread C++ runtime (the same runtime DLLs as the
 # GCC build), as Debian packages them: clang, g++-mingw-w64-x86-64-posix.
-set(CMAKE_SYSTEM_NAME Windows)
-set(CMAKE_SYSTEM_PROCESSOR x86_64)
+# The target, search roots and Wine as for GCC; the compilers are replaced below.
+include(${CMAKE_CURRENT_LIST_DIR}/mingw-w64-x86_64-posix.cmake)
 
-set(ORU_MINGW_TRIPLET x86_64-w64-mingw32)
 set(ORU_MINGW_SYSROOT /usr/${ORU_MINGW_TRIPLET})
 # GCC's runtime folder, "12-posix" on Debian 12: the newest posix one.
 file(GLOB ORU_MINGW_GCC_DIRS LIST_DIRECTORIES true /usr/lib/gcc/${ORU_MINGW_TRIPLET}/*-posix)
@@ -34,15 +33,3 @@ set(CMAKE_SHARED_LINKER_FLAGS_INIT "-L${ORU_MINGW_GCC_DIR} -pthread")
 set(CMAKE_MODULE_LINKER_FLAGS_INIT "-L${ORU_MINGW_GCC_DIR} -pthread")
 # Where the runtime DLLs are (clang++ -print-file-name does not know).
 set(ORU_MINGW_RUNTIME_DIRS ${ORU_MINGW_GCC_DIR} ${ORU_MINGW_SYSROOT}/lib)
-
-set(CMAKE_FIND_ROOT_PATH ${ORU_MINGW_SYSROOT})
-list(APPEND CMAKE_FIND_ROOT_PATH ${CMAKE_PREFIX_PATH})
-set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
-set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
-set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
-set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
-
-find_program(ORU_WINE64 NAMES wine64 PATHS /usr/lib/wine /usr/lib/wine64 NO_CMAKE_FIND_ROOT_PATH)
-if(ORU_WINE64)
-  set(CMAKE_CROSSCOMPILING_EMULATOR ${ORU_WINE64})
-endif()
