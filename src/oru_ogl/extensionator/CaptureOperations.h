@@ -1,0 +1,40 @@
+#ifndef ORU_OGL_EXTENSIONATOR_CAPTUREOPERATIONS_H
+#define ORU_OGL_EXTENSIONATOR_CAPTUREOPERATIONS_H
+
+/// \file
+/// The numbers the capture gives the operations of the GL and WGL chains:
+/// the GL operations in the chain's order, then the WGL ones. A capture names
+/// each number it uses in a Define record, so that a reader of another
+/// catalogue maps them by name.
+
+#include "oru_ogl/OglExport.h"
+
+#include <cstdint>
+
+namespace Oru
+{
+namespace OGL
+{
+namespace capture
+{
+
+enum Operation : std::uint16_t
+{
+#define ORU_GL_OPERATION(Ret, Stem, ...) kGL##Stem,
+#include "oru_ogl/extensionator/Operations.def"
+#define ORU_WGL_OPERATION(Ret, Stem, ...) kWGL##Stem,
+#include "oru_ogl/extensionator/windows/WglOperations.def"
+    kOperationCount
+};
+
+/// The function an operation calls: "glColor4f", "wglMakeCurrent", "SwapBuffers";
+/// null past kOperationCount.
+ORU_OGL_API char const* operationName(unsigned int operation);
+/// The operation of that function name, or kOperationCount.
+ORU_OGL_API unsigned int operationNumber(char const* name);
+
+} // namespace capture
+} // namespace OGL
+} // namespace Oru
+
+#endif

@@ -1,0 +1,108 @@
+#ifndef ORU_OGL_EXTENSIONATOR_CAPTURESTREAM_H
+#define ORU_OGL_EXTENSIONATOR_CAPTURESTREAM_H
+
+#include "oru_ogl/OglExport.h"
+#include "oru_ogl/extensionator/CaptureFormat.h"
+#include "oru_ogl/extensionator/CaptureOperations.h"
+#include "oru_ogl/extensionator/CaptureWriter.h"
+#include "oru_ogl/extensionator/GLStateProbe.h"
+
+#include <map>
+#include <vector>
+
+namespace Oru
+{
+namespace OGL
+{
+
+/// The part of a capture that the GL and WGL decorators share: the records'
+/// framing (operation names, threads), the state kept per context, the
+/// windows seen, and the frames. Records are written between begin() and
+/// end(), which hold the writer's lock.
+class ORU_OGL_API CaptureStream
+{
+public:
+    /// What the capture keeps of one context between calls.
+    struct ContextState
+    {
+        ContextFeatures features;
+        /// A vertex array was pointed at client memory: draws look for arrays to capture.
+        bool clientArrays = false;
+        struct Mapping
+        {
+            void* pointer;
+            std::uint64_t length;
+            GLenum access;
+        };
+        /// Mapped buffers by target.
+        std::map<GLenum, Mapping> mappings;
+    };
+
+    /// Writes the header; frames are stored whole when storeFrames.
+    CaptureStream(CaptureWriter& writer, bool storeFrames);
+    CaptureStream(CaptureStream const&) = delete;
+    CaptureStream& operator=(CaptureStream const&) = delete;
+
+    CaptureWriter& writer() { return writer_; }
+
+    void lock() { writer_.lock(); }
+    void unlock() { writer_.unlock(); }
+    /// Opens the record of a call of `operation`; locked.
+    void openCall(unsigned int operation)
+    {
+        checkThread();
+        if (!defined_[operation])
+            define(operation);
+        writer_.put(static_cast<std::uint16_t>(operation));
+        ++calls_;
+    }
+    /// Opens a control record; locked.
+    void openControl(std::uint16_t tag)
+    {
+        checkThread();
+        writer_.put(tag);
+    }
+
+    /// The current context's state (created with its features on first use).
+    ContextState& context();
+    /// The record of the context current now, as the capture begins (none without one).
+    void currentContext();
+    /// A Surface record when the device context is new or its window changed size.
+    void surface(HDC device);
+    /// A Frame record of the current context's back buffer, which device shows.
+    void frame(HDC device);
+
+    std::uint64_t calls() const { return calls_; }
+    unsigned int frames() const { return frames_; }
+
+private:
+    struct Window
+    {
+        int width;
+        int height;
+    };
+
+    void checkThread()
+    {
+        const DWORD thread = GetCurrentThreadId();
+        if (thread != thread_)
+            switchThread(thread);
+    }
+    void switchThread(DWORD thread);
+    void define(unsigned int operation);
+    Window windowOf(HDC device) const;
+
+    CaptureWriter& writer_;
+    bool storeFrames_;
+    bool defined_[capture::kOperationCount] = {};
+    DWORD thread_ = 0;
+    std::uint64_t calls_ = 0;
+    unsigned int frames_ = 0;
+    std::map<HGLRC, ContextState> contexts_;
+    std::map<HDC, Window> surfaces_;
+};
+
+} // namespace OGL
+} // namespace Oru
+
+#endif

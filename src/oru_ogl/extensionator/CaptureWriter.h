@@ -1,0 +1,112 @@
+#ifndef ORU_OGL_EXTENSIONATOR_CAPTUREWRITER_H
+#define ORU_OGL_EXTENSIONATOR_CAPTUREWRITER_H
+
+#include "oru_ogl/OglExport.h"
+
+#include <atomic>
+#include <condition_variable>
+#include <cstdint>
+#include <cstring>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <thread>
+
+namespace Oru
+{
+namespace OGL
+{
+
+/// The byte stream of a capture. Records are gathered in memory; a filled
+/// buffer, and the current one at every frame boundary (flush()), goes to a
+/// writer thread that hands it to the sink, so that the program waits for the
+/// disk only when the disk falls a whole buffer behind.
+///
+/// Records are written between lock() and unlock(): calls may come from
+/// several threads.
+class ORU_OGL_API CaptureWriter
+{
+public:
+    /// Receives the stream in order; false when it cannot take the bytes (the
+    /// capture then drops the rest and says so once on stderr).
+    using Sink = std::function<bool(char const* bytes, std::size_t length)>;
+
+    /// Writes to the sink from a thread of its own.
+    explicit CaptureWriter(Sink sink, std::size_t bufferSize = std::size_t(8) << 20);
+    /// Writes everything that is left, then stops the thread.
+    ~CaptureWriter();
+    CaptureWriter(CaptureWriter const&) = delete;
+    CaptureWriter& operator=(CaptureWriter const&) = delete;
+
+    /// A sink that appends to a file, flushing it after every buffer; null when
+    /// the file cannot be opened.
+    static Sink fileSink(std::string const& path);
+
+    void lock()
+    {
+        while (busy_.test_and_set(std::memory_order_acquire))
+            std::this_thread::yield();
+    }
+    void unlock() { busy_.clear(std::memory_order_release); }
+
+    /// Room for n more bytes: the place to write them, followed by advance(n).
+    char* room(std::size_t n)
+    {
+        if (n > capacity_ - used_)
+            makeRoom(n);
+        return active_.get() + used_;
+    }
+    void advance(std::size_t n) { used_ += n; }
+
+    void put(void const* bytes, std::size_t n)
+    {
+        std::memcpy(room(n), bytes, n);
+        used_ += n;
+    }
+    template <class T>
+    void put(T value)
+    {
+        static_assert(std::is_trivially_copyable<T>::value, "raw bytes");
+        char* at = room(sizeof(T));
+        std::memcpy(at, &value, sizeof(T));
+        used_ += sizeof(T);
+    }
+
+    /// Hands what was written so far to the writer thread (a frame boundary).
+    /// Call it locked.
+    void flush();
+    /// Waits until the sink has everything written so far. Call it unlocked.
+    void drain();
+
+    /// Bytes written so far, in memory or beyond.
+    std::uint64_t size() const { return handedOff_ + used_; }
+
+private:
+    void makeRoom(std::size_t n);
+    void handOff();
+    void run();
+
+    Sink sink_;
+    std::atomic_flag busy_ = ATOMIC_FLAG_INIT;
+    std::size_t capacity_;
+    std::size_t used_ = 0;
+    std::unique_ptr<char[]> active_;
+    std::uint64_t handedOff_ = 0;
+
+    // The buffer the thread is writing, guarded by mutex_.
+    std::mutex mutex_;
+    std::condition_variable changed_;
+    std::unique_ptr<char[]> pending_;
+    std::size_t pendingCapacity_ = 0;
+    std::size_t pendingUsed_ = 0;
+    bool writing_ = false;
+    bool stopping_ = false;
+    bool failed_ = false;
+    std::thread thread_;
+};
+
+} // namespace OGL
+} // namespace Oru
+
+#endif
