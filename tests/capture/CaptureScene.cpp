@@ -192,9 +192,9 @@ int main(int argc, char** argv)
     try
     {
         OGL::CaptureSession capture(argv[1], options);
-        OGL::wglInterceptor* wgl = OGL::wglInterceptor::Instance();
-        const HGLRC context = wgl->wcgmCreateContext(__FILE__, __LINE__, window.deviceContext());
-        wgl->wcgmMakeCurrent(__FILE__, __LINE__, window.deviceContext(), context);
+        auto const wgl = [] { return OGL::wglInterceptor::Instance(); };
+        const HGLRC context = wgl()->wcgmCreateContext(__FILE__, __LINE__, window.deviceContext());
+        wgl()->wcgmMakeCurrent(__FILE__, __LINE__, window.deviceContext(), context);
         OGL::ContextWrapped wrapped(window.deviceContext(), context);
         OGL::ExtensionManager::InitOptions layer;
         layer.setCompatibilityCoreVersions(true);
@@ -205,14 +205,14 @@ int main(int argc, char** argv)
         for (int frame = 0; frame < frames; ++frame)
         {
             scene.draw(frame);
-            wgl->wcgmSwapBuffers(__FILE__, __LINE__, window.deviceContext());
+            wgl()->wcgmSwapBuffers(__FILE__, __LINE__, window.deviceContext());
         }
         capture.stop();
         std::printf("captured %llu calls, %u frames, %llu bytes\n", static_cast<unsigned long long>(capture.calls()),
                     capture.frames(), static_cast<unsigned long long>(capture.bytes()));
         OGL::Library::terminateExtensionator();
-        wgl->wcgmMakeCurrent(__FILE__, __LINE__, nullptr, nullptr);
-        wgl->wcgmDeleteContext(__FILE__, __LINE__, context);
+        wgl()->wcgmMakeCurrent(__FILE__, __LINE__, nullptr, nullptr);
+        wgl()->wcgmDeleteContext(__FILE__, __LINE__, context);
     }
     catch (std::exception const& error)
     {
