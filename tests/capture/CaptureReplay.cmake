@@ -40,7 +40,7 @@ expect(0 "glGetUniformLocation\\([0-9]+, \"tint\"\\) = .*glTexImage2D\\(GL_TEXTU
 spoil(texture)
 expect(1 "4 frames \\(4 differ from the capture\\).*frame 0 \\(before call [0-9]+\\) differs from the capture" ${REPLAY} texture.oglcap)
 spoil(truncate)
-expect(3 "capture truncated: the (call|record) at byte offset [0-9]+ \\(call index [0-9]+\\) needs [0-9]+ more bytes"
+expect(3 "capture truncated: the file ends at byte [0-9]+, inside the (call|record) at byte offset [0-9]+ \\(call index [0-9]+\\)"
   ${REPLAY} truncate.oglcap)
 spoil(version)
 expect(3 "format version 99, newer than the versions this reader knows \\(up to 1\\)" ${REPLAY} version.oglcap --dump)

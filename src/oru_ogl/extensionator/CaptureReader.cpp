@@ -71,9 +71,8 @@ public:
         if (n > bytes_.size() - at_)
         {
             std::ostringstream text;
-            text << "capture truncated: the " << (isCall_ ? "call" : "record") << " at byte offset " << start_
-                 << " (call index " << call_ << ") needs " << (n - (bytes_.size() - at_))
-                 << " more bytes than the file holds";
+            text << "capture truncated: the file ends at byte " << bytes_.size() << ", inside the "
+                 << (isCall_ ? "call" : "record") << " at byte offset " << start_ << " (call index " << call_ << ")";
             throw CaptureError(text.str(), start_, call_);
         }
         unsigned char const* here = bytes_.data() + at_;
