@@ -27,6 +27,7 @@
 namespace bench
 {
 
+void captureSection(Environment& env, Rows& rows);
 void startupLegacySection(Environment& env, Rows& rows);
 extern std::string gLegacyRows;
 
@@ -47,6 +48,7 @@ const Section kSections[] = {
     { "startup", startupSection },
     { "startup-gl21", startupLegacySection },
     { "context", contextSection },
+    { "capture", captureSection },
 };
 
 std::string glText(GLenum name)

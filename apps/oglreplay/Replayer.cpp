@@ -108,7 +108,7 @@ Replayer::Replayer(Options const& options)
 Replayer::~Replayer()
 {
     wglMakeCurrent(nullptr, nullptr);
-    if (Library::isExtensionatorInitialized())
+    if (layerContext_)
         Library::terminateExtensionator();
     for (auto& context : contexts_)
         if (context.second.handle)
@@ -333,7 +333,7 @@ void Replayer::makeCurrent(std::uint64_t device, std::uint64_t context)
             *options_.log << "wglMakeCurrent failed for a context of the capture\n";
         return;
     }
-    if (!layerContext_)
+    if (!layerContext_ && !Library::isExtensionatorInitialized())
     {
         // The loaded entry points come from the first context made current.
         layerContext_.reset(new ContextWrapped(dc, rc));

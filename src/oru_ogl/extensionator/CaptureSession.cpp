@@ -41,13 +41,13 @@ void unlink(Interface* top, Decorator* decorator)
 } // namespace
 
 CaptureSession::CaptureSession(std::string const& path, CaptureOptions const& options)
-    : writer_(fileSink(path), options.bufferSize), stream_(writer_, options.storeFrames), gl_(stream_), wgl_(stream_)
+    : writer_(fileSink(path), options.bufferSize, options.backlog), stream_(writer_, options.storeFrames), gl_(stream_), wgl_(stream_)
 {
     start();
 }
 
 CaptureSession::CaptureSession(CaptureWriter::Sink sink, CaptureOptions const& options)
-    : writer_(std::move(sink), options.bufferSize), stream_(writer_, options.storeFrames), gl_(stream_), wgl_(stream_)
+    : writer_(std::move(sink), options.bufferSize, options.backlog), stream_(writer_, options.storeFrames), gl_(stream_), wgl_(stream_)
 {
     start();
 }

@@ -19,6 +19,8 @@ struct CaptureOptions
     bool storeFrames = false;
     /// Bytes gathered in memory before the writer thread takes them.
     std::size_t bufferSize = std::size_t(8) << 20;
+    /// Bytes that may wait for the file before the program waits for it.
+    std::size_t backlog = std::size_t(256) << 20;
 };
 
 /// A capture of everything that goes down the GL and WGL chains from now on:

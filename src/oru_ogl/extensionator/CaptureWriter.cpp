@@ -1,5 +1,6 @@
 #include "oru_ogl/extensionator/CaptureWriter.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <utility>
 
@@ -8,9 +9,15 @@ namespace Oru
 namespace OGL
 {
 
-CaptureWriter::CaptureWriter(Sink sink, std::size_t bufferSize)
-    : sink_(std::move(sink)), capacity_(bufferSize), active_(new char[bufferSize]), pending_(new char[bufferSize]),
-      pendingCapacity_(bufferSize)
+namespace
+{
+// Written buffers kept for reuse: enough for the writer to stay a little behind.
+const std::size_t kSpareBuffers = 4;
+} // namespace
+
+CaptureWriter::CaptureWriter(Sink sink, std::size_t bufferSize, std::size_t backlog)
+    : sink_(std::move(sink)), bufferSize_(bufferSize), backlog_(backlog), capacity_(bufferSize),
+      active_(new char[bufferSize])
 {
     thread_ = std::thread([this] { run(); });
 }
@@ -18,7 +25,7 @@ CaptureWriter::CaptureWriter(Sink sink, std::size_t bufferSize)
 CaptureWriter::~CaptureWriter()
 {
     lock();
-    handOff();
+    handOff(0);
     unlock();
     {
         std::unique_lock<std::mutex> guard(mutex_);
@@ -43,44 +50,55 @@ CaptureWriter::Sink CaptureWriter::fileSink(std::string const& path)
 
 void CaptureWriter::flush()
 {
-    handOff();
+    handOff(0);
 }
 
 void CaptureWriter::drain()
 {
     lock();
-    handOff();
+    handOff(0);
     unlock();
     std::unique_lock<std::mutex> guard(mutex_);
-    changed_.wait(guard, [this] { return pendingUsed_ == 0 && !writing_; });
+    changed_.wait(guard, [this] { return queue_.empty() && !writing_; });
 }
 
 void CaptureWriter::makeRoom(std::size_t n)
 {
-    handOff();
-    if (n > capacity_)
-    {
-        // A record larger than the buffer (a big texture): a buffer of its own size.
-        active_.reset(new char[n]);
-        capacity_ = n;
-    }
+    handOff(n);
 }
 
-// Swaps the filled buffer with the one the thread has finished, waiting for it
-// when the sink is a whole buffer behind.
-void CaptureWriter::handOff()
+// Queues the filled buffer and continues in a spare one of at least `next`
+// bytes, waiting only while the backlog is over its limit.
+void CaptureWriter::handOff(std::size_t next)
 {
-    if (used_ == 0)
+    if (used_ == 0 && next <= capacity_)
         return;
+    const std::size_t needed = std::max(next, bufferSize_);
+    Buffer fresh;
     {
         std::unique_lock<std::mutex> guard(mutex_);
-        changed_.wait(guard, [this] { return pendingUsed_ == 0 && !writing_; });
-        std::swap(active_, pending_);
-        std::swap(capacity_, pendingCapacity_);
-        pendingUsed_ = used_;
+        if (used_ != 0)
+        {
+            changed_.wait(guard, [this] { return queued_ < backlog_; });
+            queue_.push_back(Buffer{ std::move(active_), capacity_, used_ });
+            queued_ += used_;
+        }
+        auto reusable = std::find_if(spare_.begin(), spare_.end(), [needed](Buffer const& b) { return b.capacity >= needed; });
+        if (reusable != spare_.end())
+        {
+            fresh = std::move(*reusable);
+            spare_.erase(reusable);
+        }
     }
     changed_.notify_all();
+    if (!fresh.bytes)
+    {
+        fresh.bytes.reset(new char[needed]);
+        fresh.capacity = needed;
+    }
     handedOff_ += used_;
+    active_ = std::move(fresh.bytes);
+    capacity_ = fresh.capacity;
     used_ = 0;
 }
 
@@ -89,21 +107,28 @@ void CaptureWriter::run()
     std::unique_lock<std::mutex> guard(mutex_);
     for (;;)
     {
-        changed_.wait(guard, [this] { return pendingUsed_ != 0 || stopping_; });
-        if (pendingUsed_ == 0)
+        changed_.wait(guard, [this] { return !queue_.empty() || stopping_; });
+        if (queue_.empty())
             return;
+        Buffer buffer = std::move(queue_.front());
+        queue_.pop_front();
         writing_ = true;
-        const std::size_t length = pendingUsed_;
         guard.unlock();
-        const bool written = failed_ || !sink_ || sink_(pending_.get(), length);
+        const bool written = failed_ || !sink_ || sink_(buffer.bytes.get(), buffer.used);
         guard.lock();
         if (!written && !failed_)
         {
             failed_ = true;
             std::fprintf(stderr, "oru_ogl capture: the capture stream cannot be written; the rest is dropped\n");
         }
-        pendingUsed_ = 0;
+        queued_ -= buffer.used;
         writing_ = false;
+        // Oversized buffers (one big record) are not kept.
+        if (spare_.size() < kSpareBuffers && buffer.capacity == bufferSize_)
+        {
+            buffer.used = 0;
+            spare_.push_back(std::move(buffer));
+        }
         changed_.notify_all();
     }
 }

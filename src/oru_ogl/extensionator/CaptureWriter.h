@@ -7,11 +7,13 @@
 #include <condition_variable>
 #include <cstdint>
 #include <cstring>
+#include <deque>
 #include <functional>
 #include <memory>
 #include <mutex>
 #include <string>
 #include <thread>
+#include <vector>
 
 namespace Oru
 {
@@ -19,9 +21,11 @@ namespace OGL
 {
 
 /// The byte stream of a capture. Records are gathered in memory; a filled
-/// buffer, and the current one at every frame boundary (flush()), goes to a
-/// writer thread that hands it to the sink, so that the program waits for the
-/// disk only when the disk falls a whole buffer behind.
+/// buffer, and the current one at every frame boundary (flush()), is queued for
+/// a writer thread that hands it to the sink. The program goes on with a fresh
+/// buffer at once: it waits for the sink only when the queue holds more than
+/// the backlog limit, so a disk slower than the program for a while costs
+/// memory, not time.
 ///
 /// Records are written between lock() and unlock(): calls may come from
 /// several threads.
@@ -32,8 +36,10 @@ public:
     /// capture then drops the rest and says so once on stderr).
     using Sink = std::function<bool(char const* bytes, std::size_t length)>;
 
-    /// Writes to the sink from a thread of its own.
-    explicit CaptureWriter(Sink sink, std::size_t bufferSize = std::size_t(8) << 20);
+    /// Writes to the sink from a thread of its own, in buffers of bufferSize
+    /// bytes; the program waits once more than `backlog` bytes are queued.
+    explicit CaptureWriter(Sink sink, std::size_t bufferSize = std::size_t(8) << 20,
+                           std::size_t backlog = std::size_t(256) << 20);
     /// Writes everything that is left, then stops the thread.
     ~CaptureWriter();
     CaptureWriter(CaptureWriter const&) = delete;
@@ -83,23 +89,33 @@ public:
     std::uint64_t size() const { return handedOff_ + used_; }
 
 private:
+    struct Buffer
+    {
+        std::unique_ptr<char[]> bytes;
+        std::size_t capacity = 0;
+        std::size_t used = 0;
+    };
+
     void makeRoom(std::size_t n);
-    void handOff();
+    void handOff(std::size_t next);
     void run();
 
     Sink sink_;
     std::atomic_flag busy_ = ATOMIC_FLAG_INIT;
-    std::size_t capacity_;
+    std::size_t bufferSize_;
+    std::size_t backlog_;
+    std::size_t capacity_ = 0;
     std::size_t used_ = 0;
     std::unique_ptr<char[]> active_;
     std::uint64_t handedOff_ = 0;
 
-    // The buffer the thread is writing, guarded by mutex_.
+    // What the thread shares, guarded by mutex_: buffers to write, in order,
+    // and written ones to use again.
     std::mutex mutex_;
     std::condition_variable changed_;
-    std::unique_ptr<char[]> pending_;
-    std::size_t pendingCapacity_ = 0;
-    std::size_t pendingUsed_ = 0;
+    std::deque<Buffer> queue_;
+    std::vector<Buffer> spare_;
+    std::size_t queued_ = 0;
     bool writing_ = false;
     bool stopping_ = false;
     bool failed_ = false;
