@@ -191,6 +191,7 @@ int main(int argc, char** argv)
         return std::fprintf(stderr, "%s\n", window.error().c_str()), 1;
     try
     {
+        //! [capture session]
         OGL::CaptureSession capture(argv[1], options);
         auto const wgl = [] { return OGL::wglInterceptor::Instance(); };
         const HGLRC context = wgl()->wcgmCreateContext(__FILE__, __LINE__, window.deviceContext());
@@ -199,6 +200,7 @@ int main(int argc, char** argv)
         OGL::ExtensionManager::InitOptions layer;
         layer.setCompatibilityCoreVersions(true);
         OGL::Library::initializeExtensionator(&wrapped, layer);
+        //! [capture session]
 
         Scene scene;
         scene.create();
@@ -207,9 +209,11 @@ int main(int argc, char** argv)
             scene.draw(frame);
             wgl()->wcgmSwapBuffers(__FILE__, __LINE__, window.deviceContext());
         }
+        //! [capture stop]
         capture.stop();
         std::printf("captured %llu calls, %u frames, %llu bytes\n", static_cast<unsigned long long>(capture.calls()),
                     capture.frames(), static_cast<unsigned long long>(capture.bytes()));
+        //! [capture stop]
         OGL::Library::terminateExtensionator();
         wgl()->wcgmMakeCurrent(__FILE__, __LINE__, nullptr, nullptr);
         wgl()->wcgmDeleteContext(__FILE__, __LINE__, context);

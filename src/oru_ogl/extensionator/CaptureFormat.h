@@ -48,20 +48,23 @@ namespace capture
 constexpr char kMagic[8] = { 'O', 'R', 'U', 'C', 'A', 'P', 'T', '\0' };
 /// The format this library writes; readers refuse newer ones.
 constexpr std::uint32_t kFormatVersion = 1;
+/// Bytes of the header.
 constexpr std::size_t kHeaderSize = 24;
 /// Header flag: every Frame record holds its pixels.
 constexpr std::uint32_t kFramesStored = 1;
 
+/// Tags from here on are control records; below, calls.
 constexpr std::uint16_t kFirstControlTag = 0xFF00;
+/// The records that are not calls (see above for what follows each tag).
 enum ControlTag : std::uint16_t
 {
-    kDefine = 0xFF01,
-    kSurface = 0xFF02,
-    kFrame = 0xFF03,
-    kClientArray = 0xFF04,
-    kBufferContents = 0xFF05,
-    kThread = 0xFF06,
-    kCurrentContext = 0xFF07,
+    kDefine = 0xFF01,         ///< an operation number's name
+    kSurface = 0xFF02,        ///< a window's size and pixel format
+    kFrame = 0xFF03,          ///< a presented frame's checksum, or the frame
+    kClientArray = 0xFF04,    ///< a client-memory vertex array as a draw reads it
+    kBufferContents = 0xFF05, ///< what a program wrote into a mapped buffer
+    kThread = 0xFF06,         ///< calls from another thread follow
+    kCurrentContext = 0xFF07, ///< the context current when the capture began
 };
 
 /// How a pointer argument is written.
@@ -79,7 +82,15 @@ enum class PointerKind : std::uint8_t
 /// The vertex array a ClientArray record sets.
 enum class ArrayKind : std::uint8_t
 {
-    Vertex, Normal, Color, Index, EdgeFlag, FogCoord, SecondaryColor, TexCoord, Attribute
+    Vertex,         ///< glVertexPointer
+    Normal,         ///< glNormalPointer
+    Color,          ///< glColorPointer
+    Index,          ///< glIndexPointer
+    EdgeFlag,       ///< glEdgeFlagPointer
+    FogCoord,       ///< glFogCoordPointer
+    SecondaryColor, ///< glSecondaryColorPointer
+    TexCoord,       ///< glTexCoordPointer of the texture unit in `unit`
+    Attribute       ///< glVertexAttribPointer of the attribute in `unit`
 };
 
 /// 64-bit FNV-1a over the bytes: the frame checksum of Frame records.

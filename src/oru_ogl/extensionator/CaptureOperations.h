@@ -18,13 +18,17 @@ namespace OGL
 namespace capture
 {
 
+/// kGL plus the stem for a GL operation (kGLTexImage2D), kWGL plus the stem for
+/// a WGL one (kWGLMakeCurrent, kWGLSwapBuffers), then the count.
 enum Operation : std::uint16_t
 {
+#ifndef ORU_DOXYGEN
 #define ORU_GL_OPERATION(Ret, Stem, ...) kGL##Stem,
 #include "oru_ogl/extensionator/Operations.def"
 #define ORU_WGL_OPERATION(Ret, Stem, ...) kWGL##Stem,
 #include "oru_ogl/extensionator/windows/WglOperations.def"
-    kOperationCount
+#endif
+    kOperationCount ///< the number of operations
 };
 
 /// The function an operation calls: "glColor4f", "wglMakeCurrent", "SwapBuffers";

@@ -21,6 +21,7 @@ namespace OGL
 class ORU_OGL_API CaptureError : public std::runtime_error
 {
 public:
+    /// The error `text`, about the record at `offset` and the call `callIndex`.
     CaptureError(std::string const& text, std::uint64_t offset, std::uint64_t callIndex);
     /// Where in the file the record that failed begins.
     std::uint64_t offset() const { return offset_; }
@@ -39,12 +40,12 @@ struct ORU_OGL_API CapturedArgument
     bool pointer = false;
     /// Scalars: bytes, and what they hold.
     std::uint8_t size = 0;
-    bool floating = false;
-    bool isSigned = false;
-    unsigned char raw[8] = {};
+    bool floating = false;     ///< float or double
+    bool isSigned = false;     ///< a signed integer
+    unsigned char raw[8] = {}; ///< the scalar's bytes, little-endian
     /// Pointers: how the capture wrote it, and what it holds.
     capture::PointerKind kind = capture::PointerKind::Null;
-    std::uint64_t address = 0;
+    std::uint64_t address = 0;          ///< the pointer as the program passed it
     std::uint64_t length = 0;           ///< Data, Output, OutputKept
     unsigned char const* data = nullptr; ///< Data's bytes; Strings' first length field
     std::uint32_t count = 0;            ///< Strings
@@ -69,45 +70,52 @@ struct ORU_OGL_API CapturedArgument
 /// One record of a capture.
 struct ORU_OGL_API CaptureRecord
 {
+    /// What the record is (CaptureFormat.h says what each holds).
     enum class Kind
     {
-        Call, Surface, Frame, ClientArray, BufferContents, Thread, CurrentContext
+        Call,           ///< a GL or WGL call
+        Surface,        ///< a window's size and pixel format
+        Frame,          ///< a presented frame
+        ClientArray,    ///< a client vertex array for the draw that follows
+        BufferContents, ///< what a program wrote into a mapped buffer
+        Thread,         ///< calls of another thread follow
+        CurrentContext  ///< the context current when the capture began
     };
-    Kind kind = Kind::Call;
+    Kind kind = Kind::Call;       ///< what the record is
     std::uint64_t offset = 0;     ///< of the record in the file
     std::uint64_t callIndex = 0;  ///< of the call; of the next call for other records
 
     // Call
     unsigned int operation = 0;   ///< this library's operation number
-    unsigned int argumentCount = 0;
-    static constexpr unsigned int kMaxArguments = 16;
-    CapturedArgument arguments[kMaxArguments];
-    bool hasResult = false;
-    CapturedArgument result;
+    unsigned int argumentCount = 0; ///< the operation's parameters
+    static constexpr unsigned int kMaxArguments = 16; ///< more than any operation has
+    CapturedArgument arguments[kMaxArguments];         ///< the first argumentCount are the call's
+    bool hasResult = false;  ///< the operation returns something
+    CapturedArgument result; ///< what the call returned, when hasResult
 
     // Surface, Frame, CurrentContext
-    std::uint64_t device = 0;
-    std::uint64_t context = 0;
-    int width = 0;
-    int height = 0;
+    std::uint64_t device = 0;  ///< the device context, as the program saw it
+    std::uint64_t context = 0; ///< CurrentContext: the rendering context
+    int width = 0;             ///< of the window or frame
+    int height = 0;            ///< of the window or frame
     std::uint8_t pixelFormat[8] = {}; ///< colour, red, green, blue, alpha, depth, stencil bits, double-buffered
-    std::uint32_t frame = 0;
-    std::uint64_t checksum = 0;
+    std::uint32_t frame = 0;     ///< Frame: its number, from 0
+    std::uint64_t checksum = 0;  ///< Frame: capture::frameChecksum of its pixels
 
     // ClientArray, BufferContents (target in type, offset in first)
-    capture::ArrayKind array = capture::ArrayKind::Vertex;
-    std::uint32_t unit = 0;
-    std::int32_t size = 0;
-    std::uint32_t type = 0;
-    std::int32_t stride = 0;
-    bool normalized = false;
-    std::uint64_t first = 0;
-    std::uint64_t length = 0;
+    capture::ArrayKind array = capture::ArrayKind::Vertex; ///< which array
+    std::uint32_t unit = 0;   ///< texture unit or attribute index
+    std::int32_t size = 0;    ///< components per vertex
+    std::uint32_t type = 0;   ///< component type; BufferContents: the buffer target
+    std::int32_t stride = 0;  ///< as the program gave it (0: packed)
+    bool normalized = false;  ///< attributes: normalized
+    std::uint64_t first = 0;  ///< first byte held, from the array's (or mapping's) start
+    std::uint64_t length = 0; ///< bytes held
     /// ClientArray, BufferContents: the bytes; Frame: the pixels, or null when not stored.
     unsigned char const* data = nullptr;
 
     // Thread
-    std::uint32_t thread = 0;
+    std::uint32_t thread = 0; ///< Thread: the captured thread's id
 };
 
 /// Reads a capture written by CaptureSession, record by record. The whole file
@@ -121,8 +129,11 @@ public:
     /// Reads from bytes already in memory.
     explicit CaptureReader(std::vector<unsigned char> bytes);
 
+    /// The capture's format version.
     std::uint32_t version() const { return version_; }
+    /// Whether Frame records hold their pixels.
     bool framesStored() const { return (flags_ & capture::kFramesStored) != 0; }
+    /// Bytes of the whole capture.
     std::uint64_t size() const { return bytes_.size(); }
 
     /// The next record, or false at the end. Throws CaptureError for a record

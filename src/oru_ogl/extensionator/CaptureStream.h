@@ -25,14 +25,15 @@ public:
     /// What the capture keeps of one context between calls.
     struct ContextState
     {
-        ContextFeatures features;
+        ContextFeatures features; ///< what its queries may ask
         /// A vertex array was pointed at client memory: draws look for arrays to capture.
         bool clientArrays = false;
+        /// A buffer mapped by the program.
         struct Mapping
         {
-            void* pointer;
-            std::uint64_t length;
-            GLenum access;
+            void* pointer;        ///< where the program writes
+            std::uint64_t length; ///< bytes mapped
+            GLenum access;        ///< as glMapBuffer was asked
         };
         /// Mapped buffers by target.
         std::map<GLenum, Mapping> mappings;
@@ -43,9 +44,12 @@ public:
     CaptureStream(CaptureStream const&) = delete;
     CaptureStream& operator=(CaptureStream const&) = delete;
 
+    /// The stream's bytes.
     CaptureWriter& writer() { return writer_; }
 
+    /// Takes the writer's lock, for one or more records.
     void lock() { writer_.lock(); }
+    /// Gives it back.
     void unlock() { writer_.unlock(); }
     /// Opens the record of a call of `operation`; locked.
     void openCall(unsigned int operation)
@@ -72,7 +76,9 @@ public:
     /// A Frame record of the current context's back buffer, which device shows.
     void frame(HDC device);
 
+    /// Calls captured so far.
     std::uint64_t calls() const { return calls_; }
+    /// Frames captured so far.
     unsigned int frames() const { return frames_; }
 
 private:

@@ -49,11 +49,13 @@ public:
     /// the file cannot be opened.
     static Sink fileSink(std::string const& path);
 
+    /// Takes the stream for one or more records; spins, as records are short.
     void lock()
     {
         while (busy_.test_and_set(std::memory_order_acquire))
             std::this_thread::yield();
     }
+    /// Gives the stream back.
     void unlock() { busy_.clear(std::memory_order_release); }
 
     /// Room for n more bytes: the place to write them, followed by advance(n).
@@ -63,13 +65,16 @@ public:
             makeRoom(n);
         return active_.get() + used_;
     }
+    /// The n bytes written at room(n) are part of the stream.
     void advance(std::size_t n) { used_ += n; }
 
+    /// Appends n bytes.
     void put(void const* bytes, std::size_t n)
     {
         std::memcpy(room(n), bytes, n);
         used_ += n;
     }
+    /// Appends a value's bytes.
     template <class T>
     void put(T value)
     {

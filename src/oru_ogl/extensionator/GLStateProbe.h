@@ -23,8 +23,8 @@ struct ContextFeatures
     bool attributes = false;    ///< 2.0: generic vertex attributes
     bool pixelBuffers = false;  ///< 2.1 or ARB/EXT_pixel_buffer_object
     bool framebuffers = false;  ///< 3.0, ARB or EXT_framebuffer_object
-    int textureCoordUnits = 1;
-    int vertexAttributes = 0;
+    int textureCoordUnits = 1; ///< texture units with coordinate arrays
+    int vertexAttributes = 0;  ///< generic vertex attributes (0 before 2.0)
 };
 
 /// Reads GL state directly from the driver, never through the interception
@@ -32,6 +32,7 @@ struct ContextFeatures
 class ORU_OGL_API GLStateProbe
 {
 public:
+    /// What the current context offers.
     static ContextFeatures features();
     /// The GL_UNPACK_* (pack false) or GL_PACK_* state.
     static PixelStore pixelStore(bool pack);

@@ -22,6 +22,7 @@ namespace OGL
 class ORU_OGL_API OpenGLCapture : public OpenGLInterceptorDecorator
 {
 public:
+    /// Captures into `stream`, forwarding to next (or to the chain's top when pushed).
     explicit OpenGLCapture(CaptureStream& stream, OpenGLInterceptor* next = nullptr);
     virtual ~OpenGLCapture();
 

@@ -16,6 +16,7 @@ namespace OGL
 class ORU_OGL_API wglCapture : public wglInterceptorDecorator
 {
 public:
+    /// Captures into `stream`, forwarding to next (or to the chain's top when pushed).
     explicit wglCapture(CaptureStream& stream, wglInterceptor* next = nullptr);
     virtual ~wglCapture();
 
