@@ -2,11 +2,12 @@
 //    - a cheap call captured into memory: time and bytes per call against the
 //      bare call;
 //    - 1024x1024 RGBA uploads captured into memory (what the capture adds, as
-//      a rate) and into a file (what the caller waits for, against one copy of
-//      the bytes): the file is written by the capture's own thread;
+//      a rate) and into a file (what the caller waits for, against the capture
+//      into memory): the file is written by the capture's own thread;
 //    - replay: the time per frame of a scene replayed by oglreplay's replayer
 //      against the time per frame of the scene drawn by the program itself.
 #include "Bench.h"
+#include "ForwardingDecorator.h"
 
 #include "Replayer.h"
 
@@ -23,6 +24,7 @@
 #include <cmath>
 #include <cstdio>
 #include <cstring>
+#include <memory>
 #include <thread>
 #include <vector>
 
@@ -55,30 +57,44 @@ struct CountingSink
 
 void cheapCall(Rows& rows)
 {
+    auto const throughChain = [](unsigned int n) {
+        return timed(n, [](unsigned int i) {
+            OpenGLInterceptor::Instance()->cgmColor4f(__FILE__, __LINE__, shade(i), 0.5f, 0.25f, 1.0f);
+        });
+    };
+    // One capture for all batches, as a program keeps one (see uploads()).
+    std::uint64_t counted = 0;
+    Oru::OGL::CaptureWriter writer(CountingSink{ &counted });
+    Oru::OGL::CaptureStream stream(writer, false);
+    Oru::OGL::OpenGLCapture capture(stream);
     std::vector<double> bytesPerCall;
     std::vector<Variant> variants = {
         { "bare", [](unsigned int n) { return timed(n, [](unsigned int i) { glColor4f(shade(i), 0.5f, 0.25f, 1.0f); }); } },
-        { "captured", [&bytesPerCall](unsigned int n) {
-             std::uint64_t bytes = 0;
-             double seconds = 0;
-             {
-                 CaptureSession capture(CountingSink{ &bytes });
-                 const std::uint64_t before = capture.bytes();
-                 seconds = timed(n, [](unsigned int i) {
-                     OpenGLInterceptor::Instance()->cgmColor4f(__FILE__, __LINE__, shade(i), 0.5f, 0.25f, 1.0f);
-                 });
-                 bytesPerCall.push_back(static_cast<double>(capture.bytes() - before) / n);
-             }
+        { "forwarding", [&throughChain](unsigned int n) {
+             ForwardingDecorator forwarding;
+             OpenGLInterceptor::Instance()->addInterceptor(&forwarding);
+             const double seconds = throughChain(n);
+             OpenGLInterceptor::Instance()->popInterceptor();
+             return seconds;
+         } },
+        { "captured", [&](unsigned int n) {
+             OpenGLInterceptor::Instance()->addInterceptor(&capture);
+             const std::uint64_t before = writer.size();
+             const double seconds = throughChain(n);
+             bytesPerCall.push_back(static_cast<double>(writer.size() - before) / n);
+             OpenGLInterceptor::Instance()->popInterceptor();
              return seconds;
          } },
     };
     const std::vector<Timing> t = compare(variants, Plan{ 15, 5, 20000 });
-    const double r = ratio(t[1], t[0]);
+    const double r = ratio(t[2], t[0]);
     rows.push_back({ kCapture, "bare `glColor4f`", format(t[0].perOperation, "ns"), "", "", "" });
-    rows.push_back({ kCapture, "`CaptureSession` `glColor4f` into memory",
-                     format(t[1].perOperation, "ns") + ", " + formatNumber(median(bytesPerCall), 1) + " B/call",
-                     formatRatio(r, "bare"), "<= 6x bare `glColor4f` (apitrace here: 24x, about 9 B/call)",
-                     yesNo(r <= 6.0) });
+    rows.push_back({ kCapture, "`glColor4f` through a decorator that only forwards (and the error checker)",
+                     format(t[1].perOperation, "ns"), formatRatio(ratio(t[1], t[0]), "bare"), "", "" });
+    rows.push_back({ kCapture, "`OpenGLCapture` `glColor4f` into memory",
+                     format(t[2].perOperation, "ns") + ", " + formatNumber(median(bytesPerCall), 1) + " B/call",
+                     formatRatio(r, "bare") + ", " + formatRatio(ratio(t[2], t[1]), "forwarding"),
+                     "<= 6x bare `glColor4f` (apitrace here: 24x, about 9 B/call)", yesNo(r <= 6.0) });
 }
 
 void uploads(Rows& rows)
@@ -96,6 +112,16 @@ void uploads(Rows& rows)
     char folder[MAX_PATH] = {};
     GetTempPathA(MAX_PATH, folder);
     const std::string file = std::string(folder) + "oru_bench_capture.oglcap";
+    // One capture of each kind for all batches, as a program keeps one: its
+    // buffers are in use already (a capture's first buffers are fresh memory,
+    // which the system maps in on first touch).
+    std::uint64_t counted = 0;
+    Oru::OGL::CaptureWriter memoryWriter(CountingSink{ &counted });
+    Oru::OGL::CaptureStream memoryStream(memoryWriter, false);
+    std::unique_ptr<Oru::OGL::OpenGLCapture> memoryCapture(new Oru::OGL::OpenGLCapture(memoryStream));
+    std::unique_ptr<Oru::OGL::CaptureWriter> fileWriter(new Oru::OGL::CaptureWriter(Oru::OGL::CaptureWriter::fileSink(file)));
+    Oru::OGL::CaptureStream fileStream(*fileWriter, false);
+    std::unique_ptr<Oru::OGL::OpenGLCapture> fileCapture(new Oru::OGL::OpenGLCapture(fileStream));
     auto const upload = [p](unsigned int) {
         OpenGLInterceptor::Instance()->cgmTexImage2D(__FILE__, __LINE__, GL_TEXTURE_2D, 0, GL_RGBA8, size, size, 0,
                                                      GL_RGBA, GL_UNSIGNED_BYTE, p);
@@ -118,24 +144,37 @@ void uploads(Rows& rows)
         { "one copy", [&](unsigned int n) {
              return timed(n, [&](unsigned int) { std::memcpy(copy.data(), p, bytes); });
          } },
-        { "captured into memory", [&upload](unsigned int n) {
-             std::uint64_t written = 0;
-             CaptureSession capture(CountingSink{ &written });
-             return timed(n, upload);
+        { "captured into memory", [&](unsigned int n) {
+             OpenGLInterceptor::Instance()->addInterceptor(memoryCapture.get());
+             const double seconds = timed(n, upload);
+             OpenGLInterceptor::Instance()->popInterceptor();
+             return seconds;
          } },
         { "bare, spaced", spaced },
-        { "captured into a file, spaced", [&spaced, &file](unsigned int n) {
-             CaptureSession capture(file);
-             return spaced(n);
+        { "captured into memory, spaced", [&](unsigned int n) {
+             OpenGLInterceptor::Instance()->addInterceptor(memoryCapture.get());
+             const double seconds = spaced(n);
+             OpenGLInterceptor::Instance()->popInterceptor();
+             return seconds;
+         } },
+        { "captured into a file, spaced", [&](unsigned int n) {
+             OpenGLInterceptor::Instance()->addInterceptor(fileCapture.get());
+             const double seconds = spaced(n);
+             OpenGLInterceptor::Instance()->popInterceptor();
+             return seconds;
          } },
     };
     const std::vector<Timing> t = compare(variants, Plan{ 7, 3, 4 });
+    memoryCapture.reset();
+    fileCapture.reset();
+    fileWriter.reset();
     std::remove(file.c_str());
     glBindTexture(GL_TEXTURE_2D, 0);
     glDeleteTextures(1, &texture);
 
     const double inMemory = t[2].perOperation - t[0].perOperation;
-    const double intoFile = t[4].perOperation - t[3].perOperation;
+    const double spacedInMemory = t[4].perOperation - t[3].perOperation;
+    const double intoFile = t[5].perOperation - t[3].perOperation;
     const double rate = bytes / inMemory / 1e9;
     rows.push_back({ kCapture, "1024x1024 RGBA8: bare `glTexImage2D`, one copy of the bytes",
                      format(t[0].perOperation, "us") + ", " + format(t[1].perOperation, "us"), "", "", "" });
@@ -143,10 +182,12 @@ void uploads(Rows& rows)
                      format(t[2].perOperation, "us") + "; capturing adds " + format(inMemory, "us") + " = " +
                          formatNumber(rate, 2) + " GB/s",
                      formatRatio(inMemory / t[1].perOperation, "one copy"), ">= 5 GB/s", yesNo(rate >= 5.0) });
-    rows.push_back({ kCapture, "1024x1024 RGBA8 `glTexImage2D` captured into a file, 10 ms apart",
-                     format(t[4].perOperation, "us") + "; the caller waits " + format(intoFile, "us") + " more",
-                     formatRatio(intoFile / t[1].perOperation, "one copy"), "<= 1.5x one copy",
-                     yesNo(intoFile <= 1.5 * t[1].perOperation) });
+    // The file is the capture's thread's business: the caller should wait no
+    // longer than for the capture's copy into memory, under the same conditions.
+    rows.push_back({ kCapture, "1024x1024 RGBA8 `glTexImage2D` captured, 10 ms apart: into memory, into a file",
+                     "the caller waits " + format(spacedInMemory, "us") + ", " + format(intoFile, "us") + " more",
+                     formatRatio(intoFile / spacedInMemory, "into memory"), "<= 1.25x into memory",
+                     yesNo(intoFile <= 1.25 * spacedInMemory) });
 }
 
 // A frame of a GL 1.1 scene: immediate mode, client arrays, textures, matrices.

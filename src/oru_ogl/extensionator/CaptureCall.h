@@ -13,7 +13,6 @@
 
 #include <cstdint>
 #include <cstring>
-#include <exception>
 #include <tuple>
 #include <type_traits>
 
@@ -71,38 +70,12 @@ long long asNumber(T value)
         return static_cast<long long>(value);
 }
 
-/// The call's result, or the exception it threw: the record is written either way.
-template <class Ret>
-struct Outcome
+/// Makes the call, then writes its record with `record(result)`; when the call
+/// throws, the record is written with a zero result and the exception goes on.
+template <class Ret, class Forward, class Record>
+Ret forwardAndRecord(Forward& forward, Record const& record)
 {
-    template <class F>
-    explicit Outcome(F& forward)
-    {
-        try
-        {
-            value = forward();
-        }
-        catch (...)
-        {
-            error = std::current_exception();
-        }
-    }
-    void put(CaptureWriter& writer) const { writer.put(stored(value)); }
-    Ret result() const
-    {
-        if (error)
-            std::rethrow_exception(error);
-        return value;
-    }
-    Ret value{};
-    std::exception_ptr error;
-};
-
-template <>
-struct Outcome<void>
-{
-    template <class F>
-    explicit Outcome(F& forward)
+    if constexpr (std::is_void<Ret>::value)
     {
         try
         {
@@ -110,17 +83,27 @@ struct Outcome<void>
         }
         catch (...)
         {
-            error = std::current_exception();
+            record(0);
+            throw;
         }
+        record(0);
     }
-    void put(CaptureWriter&) const {}
-    void result() const
+    else
     {
-        if (error)
-            std::rethrow_exception(error);
+        Ret result{};
+        try
+        {
+            result = forward();
+        }
+        catch (...)
+        {
+            record(result);
+            throw;
+        }
+        record(result);
+        return result;
     }
-    std::exception_ptr error;
-};
+}
 
 /// Writes the pointer arguments of one call; the slow path's state.
 class ORU_OGL_API PointerArguments
@@ -226,21 +209,22 @@ Ret captureCall(CaptureStream& stream, Forward&& forward, A... args)
     if constexpr (!kHooked && !(kDataPointer<A> || ...))
     {
         // The short way, for most calls: scalars only.
-        Outcome<Ret> outcome(forward);
-        stream.lock();
-        stream.openCall(Id);
-        constexpr std::size_t kBytes = (std::size_t(0) + ... + sizeof(Stored<A>));
-        char* at = stream.writer().room(kBytes);
-        auto const putOne = [&at](auto value) {
-            std::memcpy(at, &value, sizeof(value));
-            at += sizeof(value);
-        };
-        (putOne(stored(args)), ...);
-        (void)putOne;
-        stream.writer().advance(kBytes);
-        outcome.put(stream.writer());
-        stream.unlock();
-        return outcome.result();
+        return forwardAndRecord<Ret>(forward, [&](auto result) {
+            stream.lock();
+            stream.openCall(Id);
+            constexpr std::size_t kBytes = (std::size_t(0) + ... + sizeof(Stored<A>));
+            char* at = stream.writer().room(kBytes);
+            auto const putOne = [&at](auto value) {
+                std::memcpy(at, &value, sizeof(value));
+                at += sizeof(value);
+            };
+            (putOne(stored(args)), ...);
+            (void)putOne;
+            stream.writer().advance(kBytes);
+            if constexpr (!std::is_void<Ret>::value)
+                stream.writer().put(stored(static_cast<Ret>(result)));
+            stream.unlock();
+        });
     }
     else
     {
@@ -251,29 +235,29 @@ Ret captureCall(CaptureStream& stream, Forward&& forward, A... args)
             stream.surface(std::get<0>(all));
         if constexpr (kPresents<Id>)
             stream.frame(std::get<0>(all));
-        Outcome<Ret> outcome(forward);
-        if constexpr (kMaps<Id>)
-            afterMap(stream, std::get<0>(all), std::get<1>(all), outcome.value);
-
-        const long long values[] = { asNumber(args)..., 0 };
-        stream.lock();
-        PointerArguments pointers(stream, Id, values);
-        if constexpr (kDraws<Id>)
-        {
-            CaptureStream::ContextState& state = pointers.context();
-            long long first = 0, last = -1;
-            if (state.clientArrays && drawRange<Id>(state, first, last, args...))
-                drawnArrays(stream, state, first, last);
-        }
-        stream.openCall(Id);
-        unsigned int index = 0;
-        (pointers.put(index++, args), ...);
-        outcome.put(stream.writer());
-        pointers.putKept();
-        if constexpr (kPresents<Id>)
-            stream.writer().flush();
-        stream.unlock();
-        return outcome.result();
+        return forwardAndRecord<Ret>(forward, [&](auto result) {
+            if constexpr (kMaps<Id>)
+                afterMap(stream, std::get<0>(all), std::get<1>(all), static_cast<Ret>(result));
+            const long long values[] = { asNumber(args)..., 0 };
+            stream.lock();
+            PointerArguments pointers(stream, Id, values);
+            if constexpr (kDraws<Id>)
+            {
+                CaptureStream::ContextState& state = pointers.context();
+                long long first = 0, last = -1;
+                if (state.clientArrays && drawRange<Id>(state, first, last, args...))
+                    drawnArrays(stream, state, first, last);
+            }
+            stream.openCall(Id);
+            unsigned int index = 0;
+            (pointers.put(index++, args), ...);
+            if constexpr (!std::is_void<Ret>::value)
+                stream.writer().put(stored(static_cast<Ret>(result)));
+            pointers.putKept();
+            if constexpr (kPresents<Id>)
+                stream.writer().flush();
+            stream.unlock();
+        });
     }
 }
 

@@ -64,8 +64,8 @@ void CaptureStream::currentContext()
     const HDC device = wglGetCurrentDC();
     if (!context || !device)
         return;
-    surface(device);
     lock();
+    surfaceLocked(device);
     openControl(kCurrentContext);
     writer_.put(reinterpret_cast<std::uint64_t>(device));
     writer_.put(reinterpret_cast<std::uint64_t>(context));
@@ -76,6 +76,13 @@ void CaptureStream::surface(HDC device)
 {
     if (!device)
         return;
+    lock();
+    surfaceLocked(device);
+    unlock();
+}
+
+void CaptureStream::surfaceLocked(HDC device)
+{
     const Window window = windowOf(device);
     auto known = surfaces_.find(device);
     if (known != surfaces_.end() && known->second.width == window.width && known->second.height == window.height)
@@ -89,23 +96,24 @@ void CaptureStream::surface(HDC device)
     const std::uint8_t bits[] = { format.cColorBits, format.cRedBits, format.cGreenBits, format.cBlueBits,
                                   format.cAlphaBits, format.cDepthBits, format.cStencilBits,
                                   static_cast<std::uint8_t>((format.dwFlags & PFD_DOUBLEBUFFER) ? 1 : 0) };
-    lock();
     openControl(kSurface);
     writer_.put(reinterpret_cast<std::uint64_t>(device));
     writer_.put(static_cast<std::int32_t>(window.width));
     writer_.put(static_cast<std::int32_t>(window.height));
     writer_.put(bits, sizeof(bits));
-    unlock();
 }
 
 void CaptureStream::frame(HDC device)
 {
-    if (!wglGetCurrentContext())
+    if (!wglGetCurrentContext() || !device)
         return;
-    surface(device);
     const Window window = windowOf(device);
-    ContextState& state = context();
-    const std::vector<unsigned char> pixels = GLStateProbe::backBuffer(state.features, window.width, window.height);
+    lock();
+    surfaceLocked(device);
+    const ContextFeatures features = context().features;
+    unlock();
+    // Read outside the lock: other threads' calls need not wait for it.
+    const std::vector<unsigned char> pixels = GLStateProbe::backBuffer(features, window.width, window.height);
     lock();
     openControl(kFrame);
     writer_.put(reinterpret_cast<std::uint64_t>(device));

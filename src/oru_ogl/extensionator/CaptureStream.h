@@ -67,7 +67,7 @@ public:
         writer_.put(tag);
     }
 
-    /// The current context's state (created with its features on first use).
+    /// The current context's state (created with its features on first use); locked.
     ContextState& context();
     /// The record of the context current now, as the capture begins (none without one).
     void currentContext();
@@ -95,6 +95,7 @@ private:
             switchThread(thread);
     }
     void switchThread(DWORD thread);
+    void surfaceLocked(HDC device);
     void define(unsigned int operation);
     Window windowOf(HDC device) const;
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstring>
 #include <utility>
 
 namespace Oru
@@ -13,11 +14,22 @@ namespace
 {
 // Written buffers kept for reuse: enough for the writer to stay a little behind.
 const std::size_t kSpareBuffers = 4;
+// Buffers the thread keeps ready: memory the system has mapped in already,
+// since the first touch of each page of fresh memory costs more than the
+// capture's own work.
+const std::size_t kReadyBuffers = 2;
+
+std::unique_ptr<char[]> touchedBuffer(std::size_t size)
+{
+    std::unique_ptr<char[]> bytes(new char[size]);
+    std::memset(bytes.get(), 0, size);
+    return bytes;
+}
 } // namespace
 
 CaptureWriter::CaptureWriter(Sink sink, std::size_t bufferSize, std::size_t backlog)
     : sink_(std::move(sink)), bufferSize_(bufferSize), backlog_(backlog), capacity_(bufferSize),
-      active_(new char[bufferSize])
+      active_(touchedBuffer(bufferSize))
 {
     thread_ = std::thread([this] { run(); });
 }
@@ -107,9 +119,17 @@ void CaptureWriter::run()
     std::unique_lock<std::mutex> guard(mutex_);
     for (;;)
     {
-        changed_.wait(guard, [this] { return !queue_.empty() || stopping_; });
-        if (queue_.empty())
+        changed_.wait(guard, [this] { return !queue_.empty() || stopping_ || spare_.size() < kReadyBuffers; });
+        if (queue_.empty() && stopping_)
             return;
+        if (queue_.empty())
+        {
+            guard.unlock();
+            Buffer ready{ touchedBuffer(bufferSize_), bufferSize_, 0 };
+            guard.lock();
+            spare_.push_back(std::move(ready));
+            continue;
+        }
         Buffer buffer = std::move(queue_.front());
         queue_.pop_front();
         writing_ = true;
