@@ -39,7 +39,7 @@ enum ExitCode
 int main(int argc, char** argv)
 {
     std::string capture;
-    bool dump = false, noCompare = false, statistics = false, quiet = false;
+    bool dump = false, noCompare = false, statistics = false;
     std::vector<std::string> pngs;
     CLI::App app(kDescription, "oglreplay");
     app.add_option("capture", capture, "the capture file")->required();
@@ -53,7 +53,6 @@ int main(int argc, char** argv)
         ->excludes(dumpOption);
     app.add_flag("--stats", statistics, "time every call and print calls and driver time per function")
         ->excludes(dumpOption);
-    app.add_flag("--quiet", quiet, "print only the summary line and failures of the frames");
     app.footer(kFooter);
     try
     {
