@@ -90,6 +90,19 @@ public:
         void setDebugMessageSink(DriverDebugOutput::Sink const& sink);
         /// The sink, empty for the standard error stream.
         DriverDebugOutput::Sink const& debugMessageSink() const;
+        /// The wrappers' own GL calls go through the current interceptor,
+        /// with the wrapper's file and line, so that a tracer or recorder on
+        /// the chain sees them. Off by default: wrappers then call GL directly
+        /// and leave GL errors to GL. On, the chain's error checker checks each
+        /// of their calls: a GL error (also one a raw call left pending) raises
+        /// ExceptionOGL from the wrapper's call with the checker's text. Texture
+        /// transfers first put back the pixel-store state and bindings they
+        /// changed; other members stop where the error was raised. Refusals
+        /// stay as they are. Calls in destructors and restoring scopes never
+        /// throw: an error the chain raises there is dropped.
+        void setWrappersThroughChain(bool value) { bWrappersThroughChain_ = value; }
+        /// The wrappers-through-chain option.
+        bool wrappersThroughChain() const { return bWrappersThroughChain_; }
 
     private:
         bool bThrowOnNullContext_;
@@ -101,6 +114,7 @@ public:
         bool bDriverDebugOutput_ = false;
         DriverDebugOutput::teSeverity debugMessageSeverity_ = DriverDebugOutput::eMedium;
         DriverDebugOutput::Sink debugMessageSink_;
+        bool bWrappersThroughChain_ = false;
     };
 
     /// The instance; throws InternalException while the layer is not started.

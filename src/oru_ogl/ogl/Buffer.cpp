@@ -5,12 +5,12 @@
 #include "oru_ogl/extensionator/ExtensionManager.h"
 #include "oru_ogl/ogl/GLConstants.h"
 #include "oru_ogl/ogl/TwoWayTable.h"
+#include "oru_ogl/ogl/WrapperCall.h"
 #include "oru_ogl/ogl/WrapperCheck.h"
 
-// Buffer objects through the GL 1.5 entry points. The extensions are what the
-// constructor requires; the 1.5 names are the same functions. A driver that
-// reports 3.0 or later gets no core-version id at start-up, so those pointers
-// may still be null when the first buffer is made: they are fetched then.
+// Buffer objects through the GL 1.5 entry points, the same functions as the extensions'
+// the constructor requires. A driver that reports 3.0 or later gets no core-version id at
+// start-up, so those pointers may still be null at the first buffer: they are fetched then.
 
 namespace Oru
 {
@@ -71,7 +71,7 @@ Buffer::Buffer(long long nSize, Type /*type*/, Usage usage, const void* data)
     const GLenum glUsage = Usage2GL(usage); // an unknown usage is refused before a name exists
     loadBufferEntryPoints();
 
-    _cgmGenBuffers(1, &n_ObjectID);
+    ORU_WRAPPER_GL glGenBuffers(1, &n_ObjectID);
     const unsigned int previous = getBoundID();
     ORU_VERIFY(n_ObjectID != 0);
     switch (static_cast<int>(usage))
@@ -92,14 +92,14 @@ Buffer::Buffer(long long nSize, Type /*type*/, Usage usage, const void* data)
         break;
     }
     bind();
-    _cgmBufferData(target(), static_cast<GLsizeiptr>(nSize), data, glUsage);
-    _cgmBindBuffer(target(), previous);
+    ORU_WRAPPER_GL glBufferData(target(), static_cast<GLsizeiptr>(nSize), data, glUsage);
+    ORU_WRAPPER_GL glBindBuffer(target(), previous);
     ORU_CHECK_GL(Buffer);
 }
 
 Buffer::~Buffer()
 {
-    _cgmDeleteBuffers(1, &n_ObjectID);
+    ORU_WRAPPER_GL_NOTHROW glDeleteBuffers(1, &n_ObjectID);
 }
 
 unsigned long long Buffer::size() const
@@ -119,35 +119,35 @@ bool Buffer::isMapped() const
 
 void Buffer::bind()
 {
-    _cgmBindBuffer(target(), n_ObjectID);
+    ORU_WRAPPER_GL glBindBuffer(target(), n_ObjectID);
     ORU_CHECK_GL(Buffer);
 }
 
 void Buffer::bindDefaultUnpackBuffer()
 {
     loadBufferEntryPoints();
-    _cgmBindBuffer(GL_PIXEL_UNPACK_BUFFER, 0);
+    ORU_WRAPPER_GL glBindBuffer(GL_PIXEL_UNPACK_BUFFER, 0);
     ORU_CHECK_GL(Buffer);
 }
 
 void Buffer::bindDefaultPackBuffer()
 {
     loadBufferEntryPoints();
-    _cgmBindBuffer(GL_PIXEL_PACK_BUFFER, 0);
+    ORU_WRAPPER_GL glBindBuffer(GL_PIXEL_PACK_BUFFER, 0);
     ORU_CHECK_GL(Buffer);
 }
 
 void Buffer::bindDefaultArrayBuffer()
 {
     loadBufferEntryPoints();
-    _cgmBindBuffer(GL_ARRAY_BUFFER, 0);
+    ORU_WRAPPER_GL glBindBuffer(GL_ARRAY_BUFFER, 0);
     ORU_CHECK_GL(Buffer);
 }
 
 void Buffer::bindDefaultElementArrayBuffer()
 {
     loadBufferEntryPoints();
-    _cgmBindBuffer(GL_ELEMENT_ARRAY_BUFFER, 0);
+    ORU_WRAPPER_GL glBindBuffer(GL_ELEMENT_ARRAY_BUFFER, 0);
     ORU_CHECK_GL(Buffer);
 }
 
@@ -208,7 +208,7 @@ void* Buffer::map(unsigned int access)
 {
     if (bMapped_)
         ORU_THROW("Buffer is already mapped (this will cause a GL error)");
-    void* pointer = _cgmMapBuffer(target(), access);
+    void* pointer = ORU_WRAPPER_GL glMapBuffer(target(), access);
     bMapped_ = true;
     ORU_CHECK_GL(Buffer);
     return pointer;
@@ -221,7 +221,7 @@ void Buffer::unmap()
 {
     if (!bMapped_)
         ORU_THROW("Buffer must be mapped before umapping it (this will cause a GL error)");
-    if (_cgmUnmapBuffer(target()) == GL_FALSE)
+    if (ORU_WRAPPER_GL glUnmapBuffer(target()) == GL_FALSE)
         ORU_THROW("Cannot unmap buffer");
     bMapped_ = false;
     ORU_CHECK_GL(Buffer);
@@ -235,7 +235,7 @@ void Buffer::subData(long long offset, long long size, const void* data)
         ORU_THROW("Buffer::subData pointer to data must not be NULL");
     if (offset < 0)
         ORU_THROW("Buffer::subData offset must not be negative");
-    _cgmBufferSubData(target(), static_cast<GLintptr>(offset), static_cast<GLsizeiptr>(size), data);
+    ORU_WRAPPER_GL glBufferSubData(target(), static_cast<GLintptr>(offset), static_cast<GLsizeiptr>(size), data);
     ORU_CHECK_GL(Buffer);
 }
 
@@ -247,7 +247,7 @@ void Buffer::getSubData(long long offset, long long size, void* data)
         ORU_THROW("Buffer::getSubData pointer to data must not be NULL");
     if (offset < 0)
         ORU_THROW("Buffer::getSubData offset must not be negative");
-    _cgmGetBufferSubData(target(), static_cast<GLintptr>(offset), static_cast<GLsizeiptr>(size), data);
+    ORU_WRAPPER_GL glGetBufferSubData(target(), static_cast<GLintptr>(offset), static_cast<GLsizeiptr>(size), data);
     ORU_CHECK_GL(Buffer);
 }
 

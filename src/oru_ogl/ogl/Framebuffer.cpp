@@ -2,11 +2,11 @@
 
 #include "oru_ogl/Enforce.h"
 #include "oru_ogl/TokenName.h"
-#include "oru_ogl/extensionator/EntryPoints.h"
 #include "oru_ogl/extensionator/ExtensionManager.h"
 #include "oru_ogl/ogl/GLConstants.h"
 #include "oru_ogl/ogl/Renderbuffer.h"
 #include "oru_ogl/ogl/Texture2.h"
+#include "oru_ogl/ogl/WrapperCall.h"
 #include "oru_ogl/ogl/WrapperCheck.h"
 
 // Framebuffer objects of GL_EXT_framebuffer_object: render into textures and
@@ -41,7 +41,7 @@ bool Framebuffer::isSupported()
 unsigned int Framebuffer::maxColorAttachments()
 {
     GLint count = 0;
-    glGetIntegerv(GL_MAX_COLOR_ATTACHMENTS_EXT, &count);
+    ORU_WRAPPER_GL glGetIntegerv(GL_MAX_COLOR_ATTACHMENTS_EXT, &count);
     ORU_CHECK_GL(Framebuffer);
     return static_cast<unsigned int>(count);
 }
@@ -50,7 +50,7 @@ Framebuffer::Framebuffer()
     : Object(GL_FRAMEBUFFER_EXT, GL_FRAMEBUFFER_BINDING_EXT)
 {
     ORU_VERIFY(Oru::OGL::ExtensionManager::Instance()->isSupported(GL_EXT_FRAMEBUFFER_OBJECT));
-    _cgmGenFramebuffersEXT(1, &n_ObjectID);
+    ORU_WRAPPER_GL glGenFramebuffersEXT(1, &n_ObjectID);
     ORU_VERIFY(n_ObjectID != 0);
     ORU_CHECK_GL(Framebuffer);
 }
@@ -58,12 +58,12 @@ Framebuffer::Framebuffer()
 // Deleting the bound framebuffer binds the window's framebuffer again.
 Framebuffer::~Framebuffer()
 {
-    _cgmDeleteFramebuffersEXT(1, &n_ObjectID);
+    ORU_WRAPPER_GL_NOTHROW glDeleteFramebuffersEXT(1, &n_ObjectID);
 }
 
 void Framebuffer::bind()
 {
-    _cgmBindFramebufferEXT(target(), n_ObjectID);
+    ORU_WRAPPER_GL glBindFramebufferEXT(target(), n_ObjectID);
     ORU_CHECK_GL(Framebuffer);
 }
 
@@ -71,7 +71,7 @@ void Framebuffer::unbind()
 {
     if (!isBound())
         ORU_THROW("Framebuffer object must be bound before calling unbind()");
-    _cgmBindFramebufferEXT(target(), 0);
+    ORU_WRAPPER_GL glBindFramebufferEXT(target(), 0);
     ORU_CHECK_GL(Framebuffer);
 }
 
@@ -79,7 +79,7 @@ bool Framebuffer::statusOkay(unsigned int* status) const
 {
     if (!isBound())
         ORU_THROW("Framebuffer object must be bound before calling statusOkay()");
-    const GLenum result = _cgmCheckFramebufferStatusEXT(GL_FRAMEBUFFER_EXT);
+    const GLenum result = ORU_WRAPPER_GL glCheckFramebufferStatusEXT(GL_FRAMEBUFFER_EXT);
     ORU_CHECK_GL(Framebuffer);
     if (status != NULL)
         *status = result;
@@ -97,7 +97,7 @@ void Framebuffer::attach(Texture2* texture, unsigned int level, unsigned int ind
     if (!isBound())
         ORU_THROW("Framebuffer Objects must be bound to attach objects");
     checkIndex(index);
-    _cgmFramebufferTexture2DEXT(target(), GL_COLOR_ATTACHMENT0_EXT + index, texture->target(), texture->objectID(),
+    ORU_WRAPPER_GL glFramebufferTexture2DEXT(target(), GL_COLOR_ATTACHMENT0_EXT + index, texture->target(), texture->objectID(),
                                 static_cast<GLint>(level));
     ORU_CHECK_GL(Framebuffer);
     unsigned int status = 0;
@@ -118,10 +118,10 @@ void Framebuffer::attach(Renderbuffer* renderbuffer, unsigned int index)
     checkIndex(index);
     if (index != 0 && renderbuffer->attachment() != GL_COLOR_ATTACHMENT0_EXT)
         ORU_THROW("Color buffer index is not supported with attachment:" << TokenName(renderbuffer->attachment()));
-    _cgmFramebufferRenderbufferEXT(target(), renderbuffer->attachment() + index, renderbuffer->target(),
+    ORU_WRAPPER_GL glFramebufferRenderbufferEXT(target(), renderbuffer->attachment() + index, renderbuffer->target(),
                                    renderbuffer->objectID());
     if (renderbuffer->format() == GL_DEPTH_STENCIL_EXT)
-        _cgmFramebufferRenderbufferEXT(target(), GL_STENCIL_ATTACHMENT_EXT, renderbuffer->target(),
+        ORU_WRAPPER_GL glFramebufferRenderbufferEXT(target(), GL_STENCIL_ATTACHMENT_EXT, renderbuffer->target(),
                                        renderbuffer->objectID());
     ORU_CHECK_GL(Framebuffer);
     unsigned int status = 0;
@@ -141,7 +141,7 @@ void Framebuffer::detach(Texture2* texture, unsigned int index)
     if (!isBound())
         ORU_THROW("Framebuffer Object must be bound before detaching objects");
     checkIndex(index);
-    _cgmFramebufferTexture2DEXT(target(), GL_COLOR_ATTACHMENT0_EXT + index, texture->target(), 0, 0);
+    ORU_WRAPPER_GL glFramebufferTexture2DEXT(target(), GL_COLOR_ATTACHMENT0_EXT + index, texture->target(), 0, 0);
     ORU_CHECK_GL(Framebuffer);
 }
 
@@ -155,7 +155,7 @@ void Framebuffer::detach(Renderbuffer* renderbuffer, unsigned int index)
     checkIndex(index);
     if (index != 0 && renderbuffer->attachment() != GL_COLOR_ATTACHMENT0_EXT)
         ORU_THROW("Color buffer index is not supported with attachment:" << TokenName(renderbuffer->attachment()));
-    _cgmFramebufferRenderbufferEXT(target(), renderbuffer->attachment() + index, renderbuffer->target(), 0);
+    ORU_WRAPPER_GL glFramebufferRenderbufferEXT(target(), renderbuffer->attachment() + index, renderbuffer->target(), 0);
     ORU_CHECK_GL(Framebuffer);
 }
 

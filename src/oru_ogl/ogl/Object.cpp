@@ -1,11 +1,11 @@
 #include "oru_ogl/ogl/Object.h"
 
 #include "oru_ogl/extensionator/GLTypes.h"
+#include "oru_ogl/ogl/WrapperCall.h"
 #include "oru_ogl/ogl/WrapperCheck.h"
 
-// The binding query is answered by GL itself, not by a flag kept here: code
-// outside the layer binds and unbinds objects directly, and the wrappers'
-// refusals must see that.
+// The binding query is answered by GL itself, not by a flag kept here: code outside the
+// layer binds and unbinds objects directly, and the wrappers' refusals must see that.
 
 namespace Oru
 {
@@ -54,7 +54,7 @@ bool Object::isInitialized() const
 unsigned int Object::getBoundID() const
 {
     GLint bound = 0;
-    glGetIntegerv(nBindingQuery_, &bound);
+    ORU_WRAPPER_GL glGetIntegerv(nBindingQuery_, &bound);
     ORU_CHECK_GL(Object);
     return static_cast<unsigned int>(bound);
 }

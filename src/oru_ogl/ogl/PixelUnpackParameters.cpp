@@ -3,6 +3,7 @@
 #include "oru_ogl/Enforce.h"
 #include "oru_ogl/extensionator/ExtensionManager.h"
 #include "oru_ogl/ogl/GLConstants.h"
+#include "oru_ogl/ogl/WrapperCall.h"
 #include "oru_ogl/ogl/WrapperCheck.h"
 
 // The layout of client pixel data that a texture upload reads, as a value the
@@ -191,21 +192,20 @@ void PixelUnpackParameters::setAlignment(unsigned int bytes)
 // afterwards. A caller of apply() alone owns the state it leaves behind and
 // saves it first if other code depends on it. Every value is written, the
 // defaults included, since the context's state is unknown here.
-// Order: flags, row length and skips, the 3D pair, the alignment last; the 3D
-// pair is left alone without 3D textures, where the names may not exist.
-// An alignment outside the enumeration is found last, after the other values
-// were written: the caller restores the pushed state in any case.
+// Order: flags, row length and skips, the 3D pair, the alignment last; the 3D pair is left
+// alone without 3D textures, where the names may not exist. An alignment outside the
+// enumeration comes last, after the others were written; the caller restores the pushed state.
 void PixelUnpackParameters::apply() const
 {
-    glPixelStorei(GL_UNPACK_SWAP_BYTES, bSwapBytes_ ? 1 : 0);
-    glPixelStorei(GL_UNPACK_LSB_FIRST, bFirstLSB_ ? 1 : 0);
-    glPixelStorei(GL_UNPACK_ROW_LENGTH, static_cast<GLint>(nRowLength_));
-    glPixelStorei(GL_UNPACK_SKIP_PIXELS, static_cast<GLint>(nSkipPixels_));
-    glPixelStorei(GL_UNPACK_SKIP_ROWS, static_cast<GLint>(nSkipRows_));
+    ORU_WRAPPER_GL glPixelStorei(GL_UNPACK_SWAP_BYTES, bSwapBytes_ ? 1 : 0);
+    ORU_WRAPPER_GL glPixelStorei(GL_UNPACK_LSB_FIRST, bFirstLSB_ ? 1 : 0);
+    ORU_WRAPPER_GL glPixelStorei(GL_UNPACK_ROW_LENGTH, static_cast<GLint>(nRowLength_));
+    ORU_WRAPPER_GL glPixelStorei(GL_UNPACK_SKIP_PIXELS, static_cast<GLint>(nSkipPixels_));
+    ORU_WRAPPER_GL glPixelStorei(GL_UNPACK_SKIP_ROWS, static_cast<GLint>(nSkipRows_));
     if (ExtensionManager::Instance()->supportsTexture3D())
     {
-        glPixelStorei(GL_UNPACK_IMAGE_HEIGHT, static_cast<GLint>(nImageHeight_));
-        glPixelStorei(GL_UNPACK_SKIP_IMAGES, static_cast<GLint>(nSkipImages_));
+        ORU_WRAPPER_GL glPixelStorei(GL_UNPACK_IMAGE_HEIGHT, static_cast<GLint>(nImageHeight_));
+        ORU_WRAPPER_GL glPixelStorei(GL_UNPACK_SKIP_IMAGES, static_cast<GLint>(nSkipImages_));
     }
     GLint bytes = 0;
     switch (eAlignment_)
@@ -225,7 +225,7 @@ void PixelUnpackParameters::apply() const
     default:
         ORU_THROW_AT(kBadAlignmentLine, "Enum value not recognized");
     }
-    glPixelStorei(GL_UNPACK_ALIGNMENT, bytes);
+    ORU_WRAPPER_GL glPixelStorei(GL_UNPACK_ALIGNMENT, bytes);
     ORU_CHECK_GL(PixelUnpackParameters);
 }
 

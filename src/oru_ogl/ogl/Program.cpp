@@ -1,18 +1,18 @@
 #include "oru_ogl/ogl/Program.h"
 
 #include "oru_ogl/Enforce.h"
-#include "oru_ogl/extensionator/EntryPoints.h"
 #include "oru_ogl/extensionator/ExtensionManager.h"
 #include "oru_ogl/ogl/GLConstants.h"
+#include "oru_ogl/ogl/WrapperCall.h"
 #include "oru_ogl/ogl/WrapperCheck.h"
 
 #include <string>
 #include <vector>
 
 // GLSL programs. Like the shaders, they call the OpenGL 2.0 entry points
-// through the _cgm pointers, not through the client's interception chain, and
-// leave GL errors to GL unless checked wrappers are on (WrapperCheck.h).
-// isEnabled() alone uses the 1.1 glGetIntegerv.
+// through their _cgm pointers (through the chain with the wrappers-through-
+// chain option, WrapperCall.h), and leave GL errors to GL unless checked
+// wrappers are on (WrapperCheck.h). isEnabled() alone uses the 1.1 glGetIntegerv.
 
 namespace Oru
 {
@@ -55,7 +55,7 @@ bool Program::isSupported()
 Program::Program()
 {
     ORU_VERIFY_AT(kSupportLine, Oru::OGL::ExtensionManager::Instance()->isSupported(OPEN_GL_2_0));
-    _hObject = _cgmCreateProgram();
+    _hObject = ORU_WRAPPER_GL glCreateProgram();
     ORU_VERIFY_AT(kCreateLine, _hObject != 0);
     ORU_CHECK_GL(Program);
 }
@@ -63,7 +63,7 @@ Program::Program()
 Program::~Program() noexcept(false)
 {
     ORU_VERIFY_AT(kDeleteLine, _hObject != 0);
-    _cgmDeleteProgram(_hObject);
+    ORU_WRAPPER_GL_NOTHROW glDeleteProgram(_hObject);
 }
 
 // ---------------------------------------------------------------------------
@@ -88,7 +88,7 @@ void Program::attach(VertexShader* shader)
 {
     if (!shader->isLoaded())
         ORU_THROW_AT(kAttachVertexLine, "Vertex shader must be loaded before attaching");
-    _cgmAttachShader(_hObject, shader->objectID());
+    ORU_WRAPPER_GL glAttachShader(_hObject, shader->objectID());
     ORU_CHECK_GL(Program);
 }
 
@@ -98,20 +98,20 @@ void Program::attach(FragmentShader* shader)
 {
     if (!shader->isLoaded())
         ORU_THROW_AT(kAttachFragmentLine, "Fragment shader must be loaded before attaching");
-    _cgmAttachShader(_hObject, shader->objectID());
+    ORU_WRAPPER_GL glAttachShader(_hObject, shader->objectID());
     ORU_CHECK_GL(Program);
 }
 
 // GL reports a shader that is not attached as its own error.
 void Program::detach(const VertexShader* shader)
 {
-    _cgmDetachShader(_hObject, shader->objectID());
+    ORU_WRAPPER_GL glDetachShader(_hObject, shader->objectID());
     ORU_CHECK_GL(Program);
 }
 
 void Program::detach(const FragmentShader* shader)
 {
-    _cgmDetachShader(_hObject, shader->objectID());
+    ORU_WRAPPER_GL glDetachShader(_hObject, shader->objectID());
     ORU_CHECK_GL(Program);
 }
 
@@ -120,12 +120,12 @@ void Program::detachAllShaders()
 {
     GLuint names[kAttachedBatch];
     GLsizei count = 0;
-    _cgmGetAttachedShaders(_hObject, kAttachedBatch, &count, names);
+    ORU_WRAPPER_GL glGetAttachedShaders(_hObject, kAttachedBatch, &count, names);
     while (count > 0)
     {
         for (GLsizei i = 0; i < count; ++i)
-            _cgmDetachShader(_hObject, names[i]);
-        _cgmGetAttachedShaders(_hObject, kAttachedBatch, &count, names);
+            ORU_WRAPPER_GL glDetachShader(_hObject, names[i]);
+        ORU_WRAPPER_GL glGetAttachedShaders(_hObject, kAttachedBatch, &count, names);
     }
     ORU_CHECK_GL(Program);
 }
@@ -141,15 +141,15 @@ void detachAllOfType(GLuint program, GLenum type)
     {
         GLuint names[kAttachedBatch];
         GLsizei count = 0;
-        _cgmGetAttachedShaders(program, kAttachedBatch, &count, names);
+        ORU_WRAPPER_GL glGetAttachedShaders(program, kAttachedBatch, &count, names);
         if (count < 1)
             return;
         for (GLsizei i = 0; i < count; ++i)
         {
             GLint shaderType = 0;
-            _cgmGetShaderiv(names[i], GL_SHADER_TYPE, &shaderType);
+            ORU_WRAPPER_GL glGetShaderiv(names[i], GL_SHADER_TYPE, &shaderType);
             if (static_cast<GLenum>(shaderType) == type)
-                _cgmDetachShader(program, names[i]);
+                ORU_WRAPPER_GL glDetachShader(program, names[i]);
         }
     }
 }
@@ -187,7 +187,7 @@ std::string readLog(Program& program, int length)
 // A log of one character holds only its NUL: no text to report.
 void Program::link(bool check)
 {
-    _cgmLinkProgram(_hObject);
+    ORU_WRAPPER_GL glLinkProgram(_hObject);
     ORU_CHECK_GL(Program);
     if (!check)
         return;
@@ -232,7 +232,7 @@ void Program::postLinkInit()
 bool Program::isLinked() const
 {
     GLint status = 0;
-    _cgmGetProgramiv(_hObject, GL_LINK_STATUS, &status);
+    ORU_WRAPPER_GL glGetProgramiv(_hObject, GL_LINK_STATUS, &status);
     ORU_CHECK_GL(Program);
     return status != 0;
 }
@@ -241,9 +241,9 @@ bool Program::isLinked() const
 // the log says why not. Call it with the textures bound as for drawing.
 bool Program::validate() const
 {
-    _cgmValidateProgram(_hObject);
+    ORU_WRAPPER_GL glValidateProgram(_hObject);
     GLint status = 0;
-    _cgmGetProgramiv(_hObject, GL_VALIDATE_STATUS, &status);
+    ORU_WRAPPER_GL glGetProgramiv(_hObject, GL_VALIDATE_STATUS, &status);
     ORU_CHECK_GL(Program);
     return status != 0;
 }
@@ -252,7 +252,7 @@ bool Program::validate() const
 int Program::getInfoLogLength() const
 {
     GLint length = 0;
-    _cgmGetProgramiv(_hObject, GL_INFO_LOG_LENGTH, &length);
+    ORU_WRAPPER_GL glGetProgramiv(_hObject, GL_INFO_LOG_LENGTH, &length);
     ORU_CHECK_GL(Program);
     return length;
 }
@@ -260,7 +260,7 @@ int Program::getInfoLogLength() const
 // Writes at most maxLength characters, the NUL included.
 void Program::getInfoLog(int maxLength, char* buffer)
 {
-    _cgmGetProgramInfoLog(_hObject, maxLength, nullptr, buffer);
+    ORU_WRAPPER_GL glGetProgramInfoLog(_hObject, maxLength, nullptr, buffer);
     ORU_CHECK_GL(Program);
 }
 
@@ -275,14 +275,14 @@ void Program::enable()
 {
     if (!isLinked())
         ORU_THROW_AT(kEnableLine, "Program must be linked before being enabled");
-    _cgmUseProgram(_hObject);
+    ORU_WRAPPER_GL glUseProgram(_hObject);
     ORU_CHECK_GL(Program);
 }
 
 // Back to the fixed-function pipeline, whichever program was current.
 void Program::disable()
 {
-    _cgmUseProgram(0);
+    ORU_WRAPPER_GL glUseProgram(0);
     ORU_CHECK_GL(Program);
 }
 
@@ -292,7 +292,7 @@ void Program::disable()
 bool Program::isEnabled() const
 {
     GLint current = 0;
-    glGetIntegerv(GL_CURRENT_PROGRAM, &current);
+    ORU_WRAPPER_GL glGetIntegerv(GL_CURRENT_PROGRAM, &current);
     ORU_CHECK_GL(Program);
     return static_cast<GLuint>(current) == _hObject;
 }
@@ -349,7 +349,7 @@ void Program::loadFragmentShader(unsigned int count, const char** strings, int* 
 
 int Program::getUniformLocation(const char* name) const
 {
-    const int location = _cgmGetUniformLocation(_hObject, name);
+    const int location = ORU_WRAPPER_GL glGetUniformLocation(_hObject, name);
     ORU_CHECK_GL(Program);
     return location;
 }
@@ -357,13 +357,13 @@ int Program::getUniformLocation(const char* name) const
 // Takes effect at the next link.
 void Program::setAttributeLocation(unsigned int index, const char* name)
 {
-    _cgmBindAttribLocation(_hObject, index, name);
+    ORU_WRAPPER_GL glBindAttribLocation(_hObject, index, name);
     ORU_CHECK_GL(Program);
 }
 
 int Program::getAttributeLocation(const char* name)
 {
-    const int location = _cgmGetAttribLocation(_hObject, name);
+    const int location = ORU_WRAPPER_GL glGetAttribLocation(_hObject, name);
     ORU_CHECK_GL(Program);
     return location;
 }
@@ -373,7 +373,7 @@ unsigned int Program::getActiveUniformCount() const
     if (!isLinked())
         ORU_THROW_AT(kActiveUniformCountLine, kMustBeLinked);
     GLint count = 0;
-    _cgmGetProgramiv(_hObject, GL_ACTIVE_UNIFORMS, &count);
+    ORU_WRAPPER_GL glGetProgramiv(_hObject, GL_ACTIVE_UNIFORMS, &count);
     ORU_CHECK_GL(Program);
     return static_cast<unsigned int>(count);
 }
@@ -386,7 +386,7 @@ void Program::getActiveUniform(unsigned int index, int bufSize, int* size, unsig
 {
     if (!isLinked())
         ORU_THROW_AT(kActiveUniformLine, kMustBeLinked);
-    _cgmGetActiveUniform(_hObject, index, bufSize, nullptr, size, type, name);
+    ORU_WRAPPER_GL glGetActiveUniform(_hObject, index, bufSize, nullptr, size, type, name);
     ORU_CHECK_GL(Program);
 }
 
@@ -404,7 +404,7 @@ int Program::getMaxUniformStringLength() const
     if (!isLinked())
         ORU_THROW_AT(kMaxUniformLengthLine, kMustBeLinked);
     GLint length = 0;
-    _cgmGetProgramiv(_hObject, GL_ACTIVE_UNIFORM_MAX_LENGTH, &length);
+    ORU_WRAPPER_GL glGetProgramiv(_hObject, GL_ACTIVE_UNIFORM_MAX_LENGTH, &length);
     ORU_CHECK_GL(Program);
     return length;
 }
@@ -457,14 +457,14 @@ GLint glValue(unsigned char value) { return static_cast<GLint>(value); }
 GLint glValue(int value) { return value; }
 GLfloat glValue(float value) { return value; }
 
-void upload(GLint l, GLint x) { _cgmUniform1i(l, x); }
-void upload(GLint l, GLint x, GLint y) { _cgmUniform2i(l, x, y); }
-void upload(GLint l, GLint x, GLint y, GLint z) { _cgmUniform3i(l, x, y, z); }
-void upload(GLint l, GLint x, GLint y, GLint z, GLint w) { _cgmUniform4i(l, x, y, z, w); }
-void upload(GLint l, GLfloat x) { _cgmUniform1f(l, x); }
-void upload(GLint l, GLfloat x, GLfloat y) { _cgmUniform2f(l, x, y); }
-void upload(GLint l, GLfloat x, GLfloat y, GLfloat z) { _cgmUniform3f(l, x, y, z); }
-void upload(GLint l, GLfloat x, GLfloat y, GLfloat z, GLfloat w) { _cgmUniform4f(l, x, y, z, w); }
+void upload(GLint l, GLint x) { ORU_WRAPPER_GL glUniform1i(l, x); }
+void upload(GLint l, GLint x, GLint y) { ORU_WRAPPER_GL glUniform2i(l, x, y); }
+void upload(GLint l, GLint x, GLint y, GLint z) { ORU_WRAPPER_GL glUniform3i(l, x, y, z); }
+void upload(GLint l, GLint x, GLint y, GLint z, GLint w) { ORU_WRAPPER_GL glUniform4i(l, x, y, z, w); }
+void upload(GLint l, GLfloat x) { ORU_WRAPPER_GL glUniform1f(l, x); }
+void upload(GLint l, GLfloat x, GLfloat y) { ORU_WRAPPER_GL glUniform2f(l, x, y); }
+void upload(GLint l, GLfloat x, GLfloat y, GLfloat z) { ORU_WRAPPER_GL glUniform3f(l, x, y, z); }
+void upload(GLint l, GLfloat x, GLfloat y, GLfloat z, GLfloat w) { ORU_WRAPPER_GL glUniform4f(l, x, y, z, w); }
 
 void requireEnabled(Program const& program, int line)
 {
@@ -505,11 +505,11 @@ auto values(V... v)
     return [=](GLint location) { upload(location, glValue(v)...); };
 }
 
-// Uploads of count matrices through one of the glUniformMatrix*fv pointers,
-// read at the call (a test may have replaced it).
-auto matrices(PFN_cgmUniformMatrix2fv const* entry, int count, const float* values, unsigned char transpose)
+// Uploads of count matrices through glUniformMatrix*fv, its pointer read at the call (a test may replace it).
+auto matrices(void (WrapperCall::*entry)(GLint, GLsizei, GLboolean, const GLfloat*) const, int count,
+              const float* values, unsigned char transpose)
 {
-    return [=](GLint location) { (*entry)(location, count, transpose, values); };
+    return [=](GLint location) { ORU_WRAPPER_GL invoke(entry, location, count, transpose, values); };
 }
 
 // The array setters. What callers rely on, kept here on purpose:
@@ -527,14 +527,14 @@ auto matrices(PFN_cgmUniformMatrix2fv const* entry, int count, const float* valu
 //   unchecked by name       no               no
 struct ArrayCalls
 {
-    PFN_cgmUniform1iv const* ints;
-    PFN_cgmUniform1fv const* floats;
+    void (WrapperCall::*ints)(GLint, GLsizei, const GLint*) const;
+    void (WrapperCall::*floats)(GLint, GLsizei, const GLfloat*) const;
 };
 const ArrayCalls kArrayCalls[] = {
-    { &_cgmUniform1iv, &_cgmUniform1fv },
-    { &_cgmUniform2iv, &_cgmUniform2fv },
-    { &_cgmUniform3iv, &_cgmUniform3fv },
-    { &_cgmUniform4iv, &_cgmUniform3fv },
+    { &WrapperCall::glUniform1iv, &WrapperCall::glUniform1fv },
+    { &WrapperCall::glUniform2iv, &WrapperCall::glUniform2fv },
+    { &WrapperCall::glUniform3iv, &WrapperCall::glUniform3fv },
+    { &WrapperCall::glUniform4iv, &WrapperCall::glUniform3fv },
 };
 
 struct ArrayFlavour
@@ -550,8 +550,8 @@ const ArrayFlavour kUncheckedArrayByName = { false, false };
 bool skipsUnknown(ArrayFlavour const& flavour, GLint const*) { return flavour.skipsUnknownInts; }
 bool skipsUnknown(ArrayFlavour const&, GLfloat const*) { return false; }
 
-PFN_cgmUniform1iv const* arrayCall(int components, int*) { return kArrayCalls[components - 1].ints; }
-PFN_cgmUniform1fv const* arrayCall(int components, float*) { return kArrayCalls[components - 1].floats; }
+auto arrayCall(int components, int*) { return kArrayCalls[components - 1].ints; }
+auto arrayCall(int components, float*) { return kArrayCalls[components - 1].floats; }
 
 template <class T>
 void setArray(Program const& program, ArrayFlavour const& flavour, char const* member, int line, GLint location,
@@ -561,7 +561,7 @@ void setArray(Program const& program, ArrayFlavour const& flavour, char const* m
         requireEnabled(program, line);
     if (location == Program::nUnknownLocation && skipsUnknown(flavour, values))
         return;
-    (*arrayCall(components, values))(location, count, values);
+    ORU_WRAPPER_GL invoke(arrayCall(components, values), location, count, values);
     WrapperCheck::after(__FILE__, __LINE__, "Program", member);
 }
 
@@ -653,17 +653,17 @@ void Program::setUniformSampler2DRECT(const char* n, int unit) { checkedByName(*
 void Program::setUniformSampler2DRECT_Unsafe(int l, int unit) { unchecked(__func__, l, values(unit)); }
 void Program::setUniformSampler2DRECT_Unsafe(const char* n, int unit) { unchecked(__func__, getUniformLocation(n), values(unit)); }
 
-void Program::setUniformMatrices2(int l, int c, const float* v, unsigned char t) { checked(*this, __LINE__, __func__, l, matrices(&_cgmUniformMatrix2fv, c, v, t)); }
+void Program::setUniformMatrices2(int l, int c, const float* v, unsigned char t) { checked(*this, __LINE__, __func__, l, matrices(&WrapperCall::glUniformMatrix2fv, c, v, t)); }
 void Program::setUniformMatrices2(const char* n, int c, const float* v, unsigned char t) { setUniformMatrices2(getUniformLocation(n), c, v, t); }
-void Program::setUniformMatrices2_Unsafe(int l, int c, const float* v, unsigned char t) { unchecked(__func__, l, matrices(&_cgmUniformMatrix2fv, c, v, t)); }
+void Program::setUniformMatrices2_Unsafe(int l, int c, const float* v, unsigned char t) { unchecked(__func__, l, matrices(&WrapperCall::glUniformMatrix2fv, c, v, t)); }
 void Program::setUniformMatrices2_Unsafe(const char* n, int c, const float* v, unsigned char t) { setUniformMatrices2_Unsafe(getUniformLocation(n), c, v, t); }
-void Program::setUniformMatrices3(int l, int c, const float* v, unsigned char t) { checked(*this, __LINE__, __func__, l, matrices(&_cgmUniformMatrix3fv, c, v, t)); }
+void Program::setUniformMatrices3(int l, int c, const float* v, unsigned char t) { checked(*this, __LINE__, __func__, l, matrices(&WrapperCall::glUniformMatrix3fv, c, v, t)); }
 void Program::setUniformMatrices3(const char* n, int c, const float* v, unsigned char t) { setUniformMatrices3(getUniformLocation(n), c, v, t); }
-void Program::setUniformMatrices3_Unsafe(int l, int c, const float* v, unsigned char t) { unchecked(__func__, l, matrices(&_cgmUniformMatrix3fv, c, v, t)); }
+void Program::setUniformMatrices3_Unsafe(int l, int c, const float* v, unsigned char t) { unchecked(__func__, l, matrices(&WrapperCall::glUniformMatrix3fv, c, v, t)); }
 void Program::setUniformMatrices3_Unsafe(const char* n, int c, const float* v, unsigned char t) { setUniformMatrices3_Unsafe(getUniformLocation(n), c, v, t); }
-void Program::setUniformMatrices4(int l, int c, const float* v, unsigned char t) { checked(*this, __LINE__, __func__, l, matrices(&_cgmUniformMatrix4fv, c, v, t)); }
+void Program::setUniformMatrices4(int l, int c, const float* v, unsigned char t) { checked(*this, __LINE__, __func__, l, matrices(&WrapperCall::glUniformMatrix4fv, c, v, t)); }
 void Program::setUniformMatrices4(const char* n, int c, const float* v, unsigned char t) { setUniformMatrices4(getUniformLocation(n), c, v, t); }
-void Program::setUniformMatrices4_Unsafe(int l, int c, const float* v, unsigned char t) { unchecked(__func__, l, matrices(&_cgmUniformMatrix4fv, c, v, t)); }
+void Program::setUniformMatrices4_Unsafe(int l, int c, const float* v, unsigned char t) { unchecked(__func__, l, matrices(&WrapperCall::glUniformMatrix4fv, c, v, t)); }
 void Program::setUniformMatrices4_Unsafe(const char* n, int c, const float* v, unsigned char t) { setUniformMatrices4_Unsafe(getUniformLocation(n), c, v, t); }
 
 void Program::setUniformMatrix2(int l, const float* v, unsigned char t) { setUniformMatrices2(l, 1, v, t); }

@@ -1,9 +1,9 @@
 #include "oru_ogl/ogl/Renderbuffer.h"
 
 #include "oru_ogl/Enforce.h"
-#include "oru_ogl/extensionator/EntryPoints.h"
 #include "oru_ogl/extensionator/ExtensionManager.h"
 #include "oru_ogl/ogl/GLConstants.h"
+#include "oru_ogl/ogl/WrapperCall.h"
 #include "oru_ogl/ogl/WrapperCheck.h"
 
 namespace Oru
@@ -38,7 +38,7 @@ bool Renderbuffer::isSupported()
 int Renderbuffer::maxSize()
 {
     GLint size = 0;
-    glGetIntegerv(GL_MAX_RENDERBUFFER_SIZE_EXT, &size);
+    ORU_WRAPPER_GL glGetIntegerv(GL_MAX_RENDERBUFFER_SIZE_EXT, &size);
     ORU_CHECK_GL(Renderbuffer);
     return size;
 }
@@ -58,20 +58,20 @@ Renderbuffer::Renderbuffer(unsigned int format, int width, int height)
         ORU_THROW("Can't create renderbuffer of width " << width << ", a max width of " << limit << " is supported");
     if (height > limit)
         ORU_THROW("Can't create renderbuffer of width " << height << ", a max height of " << limit << " is supported");
-    _cgmGenRenderbuffersEXT(1, &n_ObjectID);
+    ORU_WRAPPER_GL glGenRenderbuffersEXT(1, &n_ObjectID);
     const GLuint previous = getBoundID();
     bind();
-    _cgmRenderbufferStorageEXT(target(), format, width, height);
+    ORU_WRAPPER_GL glRenderbufferStorageEXT(target(), format, width, height);
     ORU_VERIFY(n_ObjectID != 0);
     nAttachment_ = attachmentOf(format);
     unbind();
-    _cgmBindRenderbufferEXT(target(), previous);
+    ORU_WRAPPER_GL glBindRenderbufferEXT(target(), previous);
     ORU_CHECK_GL(Renderbuffer);
 }
 
 Renderbuffer::~Renderbuffer()
 {
-    _cgmDeleteRenderbuffersEXT(1, &n_ObjectID);
+    ORU_WRAPPER_GL_NOTHROW glDeleteRenderbuffersEXT(1, &n_ObjectID);
 }
 
 unsigned int Renderbuffer::format() const
@@ -96,7 +96,7 @@ unsigned int Renderbuffer::attachment() const
 
 void Renderbuffer::bind()
 {
-    _cgmBindRenderbufferEXT(target(), n_ObjectID);
+    ORU_WRAPPER_GL glBindRenderbufferEXT(target(), n_ObjectID);
     ORU_CHECK_GL(Renderbuffer);
 }
 
@@ -105,7 +105,7 @@ void Renderbuffer::unbind()
 {
     if (!isBound())
         ORU_THROW("Framebuffer object must be bound before calling unbind()");
-    _cgmBindRenderbufferEXT(target(), 0);
+    ORU_WRAPPER_GL glBindRenderbufferEXT(target(), 0);
     ORU_CHECK_GL(Renderbuffer);
 }
 

@@ -1,19 +1,19 @@
 #include "oru_ogl/ogl/Shader.h"
 
 #include "oru_ogl/Enforce.h"
-#include "oru_ogl/extensionator/EntryPoints.h"
 #include "oru_ogl/extensionator/ExtensionManager.h"
 #include "oru_ogl/ogl/GLConstants.h"
 #include "oru_ogl/ogl/TwoWayTable.h"
+#include "oru_ogl/ogl/WrapperCall.h"
 #include "oru_ogl/ogl/WrapperCheck.h"
 
 #include <vector>
 
 // GLSL shader objects. The wrappers call the OpenGL 2.0 entry points through
-// the _cgm pointers directly, not through the interception chain: that chain
-// is the client's. GL errors are left to GL unless checked wrappers are on
-// (WrapperCheck.h). Nothing is cached; every state is read back from GL when
-// asked.
+// the _cgm pointers directly; the interception chain is the client's, and sees
+// these calls only with the wrappers-through-chain option (WrapperCall.h). GL
+// errors are left to GL unless checked wrappers are on (WrapperCheck.h).
+// Nothing is cached; every state is read back from GL when asked.
 
 namespace Oru
 {
@@ -51,7 +51,7 @@ Shader::Shader(ShaderType type)
 {
     ORU_VERIFY_AT(kSupportLine, Oru::OGL::ExtensionManager::Instance()->isSupported(OPEN_GL_2_0));
     const GLenum glType = kShaderTypes.toGL(type);
-    _hObject = _cgmCreateShader(glType);
+    _hObject = ORU_WRAPPER_GL glCreateShader(glType);
     ORU_CHECK_GL(Shader);
 }
 
@@ -60,19 +60,19 @@ Shader::Shader(ShaderType type)
 Shader::~Shader() noexcept(false)
 {
     ORU_VERIFY_AT(kDeleteLine, _hObject != 0);
-    _cgmDeleteShader(_hObject);
+    ORU_WRAPPER_GL_NOTHROW glDeleteShader(_hObject);
 }
 
 void Shader::load(unsigned int count, const char** strings, int* lengths)
 {
-    _cgmShaderSource(_hObject, static_cast<GLsizei>(count), strings, lengths);
+    ORU_WRAPPER_GL glShaderSource(_hObject, static_cast<GLsizei>(count), strings, lengths);
     ORU_CHECK_GL(Shader);
 }
 
 bool Shader::isCompiled() const
 {
     GLint status = 0;
-    _cgmGetShaderiv(_hObject, GL_COMPILE_STATUS, &status);
+    ORU_WRAPPER_GL glGetShaderiv(_hObject, GL_COMPILE_STATUS, &status);
     ORU_CHECK_GL(Shader);
     return status != 0;
 }
@@ -81,7 +81,7 @@ bool Shader::isCompiled() const
 bool Shader::isLoaded() const
 {
     GLint length = 0;
-    _cgmGetShaderiv(_hObject, GL_SHADER_SOURCE_LENGTH, &length);
+    ORU_WRAPPER_GL glGetShaderiv(_hObject, GL_SHADER_SOURCE_LENGTH, &length);
     ORU_CHECK_GL(Shader);
     return length > 1;
 }
@@ -89,14 +89,14 @@ bool Shader::isLoaded() const
 int Shader::getInfoLogLength() const
 {
     GLint length = 0;
-    _cgmGetShaderiv(_hObject, GL_INFO_LOG_LENGTH, &length);
+    ORU_WRAPPER_GL glGetShaderiv(_hObject, GL_INFO_LOG_LENGTH, &length);
     ORU_CHECK_GL(Shader);
     return length;
 }
 
 void Shader::getInfoLog(int maxLength, char* buffer)
 {
-    _cgmGetShaderInfoLog(_hObject, maxLength, nullptr, buffer);
+    ORU_WRAPPER_GL glGetShaderInfoLog(_hObject, maxLength, nullptr, buffer);
     ORU_CHECK_GL(Shader);
 }
 
@@ -118,7 +118,7 @@ FragmentShader::~FragmentShader() noexcept(false) = default;
 // says "Program" although a shader failed; callers match logs against it.
 void Shader::compile(bool check)
 {
-    _cgmCompileShader(_hObject);
+    ORU_WRAPPER_GL glCompileShader(_hObject);
     ORU_CHECK_GL(Shader);
     if (!check || isCompiled())
         return;

@@ -2,12 +2,12 @@
 
 #include "oru_ogl/Enforce.h"
 #include "oru_ogl/ogl/GLConstants.h"
+#include "oru_ogl/ogl/WrapperCall.h"
 #include "oru_ogl/ogl/WrapperCheck.h"
 
-// A snapshot of the fixed-function pipeline's current vertex and raster
-// state. Only the current colour is read from GL by CurrentState(); every
-// other field holds GL's initial value, so a snapshot describes a context as
-// it is after creation except for its colour.
+// A snapshot of the fixed-function pipeline's current vertex and raster state. Only the
+// current colour is read from GL by CurrentState(); every other field holds GL's initial
+// value, so a snapshot describes a context as it is after creation except for its colour.
 
 namespace Oru
 {
@@ -20,7 +20,7 @@ namespace
 unsigned long long maxTextureCoordsOfContext()
 {
     GLint count = 0;
-    glGetIntegerv(GL_MAX_TEXTURE_COORDS, &count);
+    ORU_WRAPPER_GL glGetIntegerv(GL_MAX_TEXTURE_COORDS, &count);
     return static_cast<unsigned long long>(count);
 }
 
@@ -53,7 +53,7 @@ StateObject_2_0::~StateObject_2_0() = default;
 StateObject_2_0 StateObject_2_0::CurrentState()
 {
     StateObject_2_0 state;
-    glGetFloatv(GL_CURRENT_COLOR, &state.currentColor_.x);
+    ORU_WRAPPER_GL glGetFloatv(GL_CURRENT_COLOR, &state.currentColor_.x);
     ORU_CHECK_GL(StateObject_2_0);
     return state;
 }

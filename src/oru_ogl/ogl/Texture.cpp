@@ -2,10 +2,10 @@
 
 #include "oru_ogl/Enforce.h"
 #include "oru_ogl/TokenName.h"
-#include "oru_ogl/extensionator/EntryPoints.h"
 #include "oru_ogl/extensionator/ExtensionManager.h"
 #include "oru_ogl/ogl/GLConstants.h"
 #include "oru_ogl/ogl/TextureState.h"
+#include "oru_ogl/ogl/WrapperCall.h"
 #include "oru_ogl/ogl/WrapperCheck.h"
 
 // The texture base: the name, format and size every texture has, and the
@@ -21,8 +21,8 @@
 // drift apart. A value outside a table is a programming error in the caller
 // (a cast from an integer, usually) and raises the table's own text; GL never
 // sees it. Texture code calls GL 1.1 directly and the multitexture entry
-// point through its pointer; GL errors are checked only with checked wrappers
-// on (WrapperCheck.h).
+// point through its pointer, or both through the chain (WrapperCall.h); GL
+// errors are checked only by checked wrappers (WrapperCheck.h) or the chain.
 
 namespace Oru
 {
@@ -58,7 +58,7 @@ Texture::Texture(Target target, TargetBinding binding, InternalFormat format, st
     , nDepth_(depth)
     , nSizeInBytes_(~0ull)
 {
-    glGenTextures(1, &n_ObjectID);
+    ORU_WRAPPER_GL glGenTextures(1, &n_ObjectID);
     if (n_ObjectID == 0)
         ORU_THROW_AT(kNoNameLine, "Texture:: contructor failed to allocate new GPU texture resource");
     ORU_CHECK_GL(Texture);
@@ -67,7 +67,7 @@ Texture::Texture(Target target, TargetBinding binding, InternalFormat format, st
 // Deleting a bound texture is legal: GL binds the default texture in its place.
 Texture::~Texture()
 {
-    glDeleteTextures(1, &n_ObjectID);
+    ORU_WRAPPER_GL_NOTHROW glDeleteTextures(1, &n_ObjectID);
 }
 
 Texture::InternalFormat Texture::format()
@@ -114,15 +114,15 @@ int Texture::sizeInBytes() const
 // dimension classes allocate one on request.
 void Texture::setFilter(Filter minFilter, Filter magFilter)
 {
-    glTexParameteri(target(), GL_TEXTURE_MIN_FILTER, static_cast<GLint>(Filter2GL(minFilter)));
-    glTexParameteri(target(), GL_TEXTURE_MAG_FILTER, static_cast<GLint>(Filter2GL(magFilter)));
+    ORU_WRAPPER_GL glTexParameteri(target(), GL_TEXTURE_MIN_FILTER, static_cast<GLint>(Filter2GL(minFilter)));
+    ORU_WRAPPER_GL glTexParameteri(target(), GL_TEXTURE_MAG_FILTER, static_cast<GLint>(Filter2GL(magFilter)));
     ORU_CHECK_GL(Texture);
 }
 
 // Used by the CLAMP_TO_BORDER wrap mode and by GL_CLAMP at the border texels.
 void Texture::setBorderColor(const float* rgba)
 {
-    glTexParameterfv(target(), GL_TEXTURE_BORDER_COLOR, rgba);
+    ORU_WRAPPER_GL glTexParameterfv(target(), GL_TEXTURE_BORDER_COLOR, rgba);
     ORU_CHECK_GL(Texture);
 }
 
@@ -130,7 +130,7 @@ void Texture::setBorderColor(const float* rgba)
 // supportsAutoMIPGeneration() for when GL knows the parameter.
 void Texture::enableAutoMIPGeneration(bool on)
 {
-    glTexParameteri(target(), GL_GENERATE_MIPMAP, on ? 1 : 0);
+    ORU_WRAPPER_GL glTexParameteri(target(), GL_GENERATE_MIPMAP, on ? 1 : 0);
     ORU_CHECK_GL(Texture);
 }
 
@@ -161,7 +161,7 @@ public:
         if (unit == Texture::CurrentUnit_DEPRECATED_1_0())
             return;
         GLint active = 0;
-        glGetIntegerv(GL_ACTIVE_TEXTURE, &active);
+        ORU_WRAPPER_GL glGetIntegerv(GL_ACTIVE_TEXTURE, &active);
         nRestore_ = active;
         TextureState::setActiveTexture(unit);
     }
@@ -169,7 +169,7 @@ public:
     ~ActiveUnitGuard()
     {
         if (nRestore_ != Texture::CurrentUnit_DEPRECATED_1_0())
-            _cgmActiveTextureARB(static_cast<GLenum>(nRestore_));
+            ORU_WRAPPER_GL_NOTHROW glActiveTextureARB(static_cast<GLenum>(nRestore_));
     }
 
 private:
@@ -190,7 +190,7 @@ int Texture::CurrentUnit_DEPRECATED_1_0()
 // passed to GL as given; TextureUnit::setEnv() offers the checked form.
 void Texture::setEnv_DEPRECATED_1_0(unsigned int mode)
 {
-    glTexEnvi(GL_TEXTURE_ENV, GL_TEXTURE_ENV_MODE, static_cast<GLint>(mode));
+    ORU_WRAPPER_GL glTexEnvi(GL_TEXTURE_ENV, GL_TEXTURE_ENV_MODE, static_cast<GLint>(mode));
     ORU_CHECK_GL(Texture);
 }
 
@@ -200,7 +200,7 @@ void Texture::bind_DEPRECATED_1_0(int unit)
 {
     if (unit != CURRENT_UNIT)
         TextureState::setActiveTexture(unit);
-    glBindTexture(target(), n_ObjectID);
+    ORU_WRAPPER_GL glBindTexture(target(), n_ObjectID);
     ORU_CHECK_GL(Texture);
 }
 
@@ -209,8 +209,8 @@ void Texture::enable_DEPRECATED_1_0(int unit)
 {
     if (unit != CURRENT_UNIT)
         TextureState::setActiveTexture(unit);
-    glEnable(target());
-    glBindTexture(target(), n_ObjectID);
+    ORU_WRAPPER_GL glEnable(target());
+    ORU_WRAPPER_GL glBindTexture(target(), n_ObjectID);
     ORU_CHECK_GL(Texture);
 }
 
@@ -220,7 +220,7 @@ void Texture::unbind_DEPRECATED_1_0(int unit)
     ActiveUnitGuard guard(unit);
     if (!isBound())
         ORU_THROW_AT(kNotBoundLine, "Texture not bound");
-    glBindTexture(target(), 0);
+    ORU_WRAPPER_GL glBindTexture(target(), 0);
     ORU_CHECK_GL(Texture);
 }
 
@@ -231,7 +231,7 @@ bool Texture::isEnabled_DEPRECATED_1_0(int unit) const
     if (!isBound())
         return false;
     GLint enabled = 0;
-    glGetIntegerv(target(), &enabled);
+    ORU_WRAPPER_GL glGetIntegerv(target(), &enabled);
     ORU_CHECK_GL(Texture);
     return enabled != 0;
 }
@@ -243,8 +243,8 @@ void Texture::disable_DEPRECATED_1_0(int unit)
         ORU_THROW_AT(kNotEnabledLine, "Texture target is not enabled..can't disable texture");
     // Only this texture may be disabled: when another one is bound, the
     // target stays enabled for it and the caller is told instead.
-    glBindTexture(target(), 0);
-    glDisable(target());
+    ORU_WRAPPER_GL glBindTexture(target(), 0);
+    ORU_WRAPPER_GL glDisable(target());
     ORU_CHECK_GL(Texture);
 }
 
@@ -285,21 +285,21 @@ void Texture::pushAndSetTransferByteAlignment(unsigned int bytes)
 {
     if (bytes != 1 && bytes != 2 && bytes != 4 && bytes != 8)
         ORU_THROW("Invalid row byte alignment (must be of 1, 2, 4, or 8).");
-    glPushClientAttrib(GL_CLIENT_PIXEL_STORE_BIT);
-    glPixelStorei(GL_UNPACK_ALIGNMENT, static_cast<GLint>(bytes));
+    ORU_WRAPPER_GL glPushClientAttrib(GL_CLIENT_PIXEL_STORE_BIT);
+    ORU_WRAPPER_GL glPixelStorei(GL_UNPACK_ALIGNMENT, static_cast<GLint>(bytes));
 }
 
 void Texture::pushAndSetReadbackByteAlignment(unsigned int bytes)
 {
     if (bytes != 1 && bytes != 2 && bytes != 4 && bytes != 8)
         ORU_THROW("Invalid row byte alignment (must be of 1, 2, 4, or 8).");
-    glPushClientAttrib(GL_CLIENT_PIXEL_STORE_BIT);
-    glPixelStorei(GL_PACK_ALIGNMENT, static_cast<GLint>(bytes));
+    ORU_WRAPPER_GL glPushClientAttrib(GL_CLIENT_PIXEL_STORE_BIT);
+    ORU_WRAPPER_GL glPixelStorei(GL_PACK_ALIGNMENT, static_cast<GLint>(bytes));
 }
 
 void Texture::popPixelTransferModes()
 {
-    glPopClientAttrib();
+    ORU_WRAPPER_GL glPopClientAttrib();
 }
 
 // ---------------------------------------------------------------------------
@@ -536,7 +536,7 @@ Texture::PixelStoreGuard::PixelStoreGuard()
 Texture::PixelStoreGuard::~PixelStoreGuard()
 {
     if (bPushed_)
-        popPixelTransferModes();
+        ORU_WRAPPER_GL_NOTHROW glPopClientAttrib(); // popPixelTransferModes(), never throwing
 }
 
 void Texture::PixelStoreGuard::pushed()

@@ -4,13 +4,13 @@
 #include "oru_ogl/ogl/GLConstants.h"
 #include "oru_ogl/ogl/TextureState.h"
 #include "oru_ogl/ogl/TextureTransfer.h"
+#include "oru_ogl/ogl/WrapperCall.h"
 #include "oru_ogl/ogl/WrapperCheck.h"
 
 #include "oru_core/Math.h"
 
-// One-dimensional textures (lookup tables, mostly). Everything works as for
-// Texture2 with one coordinate: the same checks in the same order, the same
-// messages, each reported at the line of the member that ran it.
+// One-dimensional textures (lookup tables, mostly), as Texture2 with one coordinate: the
+// same checks in the same order, the same messages, each at the line of the member that ran it.
 
 namespace Oru
 {
@@ -42,7 +42,7 @@ Texture1::~Texture1() = default;
 
 void Texture1::setWrap(WrapMode s)
 {
-    glTexParameteri(target(), GL_TEXTURE_WRAP_S, static_cast<GLint>(WrapMode2GL(s)));
+    ORU_WRAPPER_GL glTexParameteri(target(), GL_TEXTURE_WRAP_S, static_cast<GLint>(WrapMode2GL(s)));
     ORU_CHECK_GL(Texture1);
 }
 

@@ -4,13 +4,13 @@
 #include "oru_ogl/ogl/GLConstants.h"
 #include "oru_ogl/ogl/TextureState.h"
 #include "oru_ogl/ogl/TextureTransfer.h"
+#include "oru_ogl/ogl/WrapperCall.h"
 #include "oru_ogl/ogl/WrapperCheck.h"
 
 #include "oru_core/Math.h"
 
-// Two-dimensional textures: GL_TEXTURE_2D and GL_TEXTURE_RECTANGLE_ARB share
-// everything but their target and their mip levels. Storage and transfers are
-// TextureTransfer's, with the lines below.
+// Two-dimensional textures: GL_TEXTURE_2D and GL_TEXTURE_RECTANGLE_ARB share everything but
+// their target and their mip levels. Storage and transfers are TextureTransfer's, with the lines below.
 
 namespace Oru
 {
@@ -84,8 +84,8 @@ void Texture2::setWrap(WrapMode s, WrapMode t)
 {
     if (!isBound())
         ORU_THROW_AT(kWrapLine, "Texture must be enabled (bound & active)");
-    glTexParameteri(target(), GL_TEXTURE_WRAP_S, static_cast<GLint>(WrapMode2GL(s)));
-    glTexParameteri(target(), GL_TEXTURE_WRAP_T, static_cast<GLint>(WrapMode2GL(t)));
+    ORU_WRAPPER_GL glTexParameteri(target(), GL_TEXTURE_WRAP_S, static_cast<GLint>(WrapMode2GL(s)));
+    ORU_WRAPPER_GL glTexParameteri(target(), GL_TEXTURE_WRAP_T, static_cast<GLint>(WrapMode2GL(t)));
     ORU_CHECK_GL(Texture2);
 }
 

@@ -6,6 +6,7 @@
 #include "oru_ogl/ogl/GLConstants.h"
 #include "oru_ogl/ogl/TextureState.h"
 #include "oru_ogl/ogl/TextureTransfer.h"
+#include "oru_ogl/ogl/WrapperCall.h"
 #include "oru_ogl/ogl/WrapperCheck.h"
 
 #include "oru_core/Math.h"
@@ -35,9 +36,8 @@ bool sizeAllowed(std::size_t width, std::size_t height, std::size_t depth)
             isPowerOfTwo(static_cast<unsigned int>(depth)));
 }
 
-// The 3D entry points are core in 1.2; a driver that reports 3.0 or later
-// gets no core-version id at start-up, so they are fetched with the first 3D
-// texture when they are still missing.
+// The 3D entry points are core in 1.2; a driver that reports 3.0 or later gets no
+// core-version id at start-up, so the first 3D texture fetches them when missing.
 void loadTexture3DEntryPoints()
 {
     if (!_cgmTexImage3D || !_cgmTexSubImage3D || !_cgmCopyTexSubImage3D)
@@ -73,9 +73,9 @@ Texture3::~Texture3() = default;
 
 void Texture3::setWrap(WrapMode s, WrapMode t, WrapMode r)
 {
-    glTexParameteri(target(), GL_TEXTURE_WRAP_S, static_cast<GLint>(WrapMode2GL(s)));
-    glTexParameteri(target(), GL_TEXTURE_WRAP_T, static_cast<GLint>(WrapMode2GL(t)));
-    glTexParameteri(target(), GL_TEXTURE_WRAP_R, static_cast<GLint>(WrapMode2GL(r)));
+    ORU_WRAPPER_GL glTexParameteri(target(), GL_TEXTURE_WRAP_S, static_cast<GLint>(WrapMode2GL(s)));
+    ORU_WRAPPER_GL glTexParameteri(target(), GL_TEXTURE_WRAP_T, static_cast<GLint>(WrapMode2GL(t)));
+    ORU_WRAPPER_GL glTexParameteri(target(), GL_TEXTURE_WRAP_R, static_cast<GLint>(WrapMode2GL(r)));
     ORU_CHECK_GL(Texture3);
 }
 

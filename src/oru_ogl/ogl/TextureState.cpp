@@ -4,6 +4,7 @@
 #include "oru_ogl/extensionator/EntryPoints.h"
 #include "oru_ogl/extensionator/ExtensionManager.h"
 #include "oru_ogl/ogl/GLConstants.h"
+#include "oru_ogl/ogl/WrapperCall.h"
 #include "oru_ogl/ogl/WrapperCheck.h"
 
 namespace Oru
@@ -11,19 +12,18 @@ namespace Oru
 namespace OGL
 {
 
-// Through GL_ARB_multitexture's entry point, which a driver without
-// multitexturing does not have: that is refused by name.
+// Through GL_ARB_multitexture's entry point; a driver without it is refused by name.
 void TextureState::setActiveTexture(int unit)
 {
     ORU_REQUIRE_LOADED(_cgmActiveTextureARB, "glActiveTextureARB");
-    _cgmActiveTextureARB(GL_TEXTURE0 + unit);
+    ORU_WRAPPER_GL glActiveTextureARB(GL_TEXTURE0 + unit);
     ORU_CHECK_GL(TextureState);
 }
 
 int TextureState::activeTexture()
 {
     GLint active = 0;
-    glGetIntegerv(GL_ACTIVE_TEXTURE, &active);
+    ORU_WRAPPER_GL glGetIntegerv(GL_ACTIVE_TEXTURE, &active);
     ORU_CHECK_GL(TextureState);
     return active - static_cast<GLint>(GL_TEXTURE0);
 }

@@ -2,11 +2,11 @@
 
 #include "oru_ogl/Enforce.h"
 #include "oru_ogl/TokenName.h"
-#include "oru_ogl/extensionator/EntryPoints.h"
 #include "oru_ogl/extensionator/ExtensionManager.h"
 #include "oru_ogl/ogl/Buffer.h"
 #include "oru_ogl/ogl/GLConstants.h"
 #include "oru_ogl/ogl/PixelUnpackParameters.h"
+#include "oru_ogl/ogl/WrapperCall.h"
 #include "oru_ogl/ogl/WrapperCheck.h"
 
 #include <algorithm>
@@ -46,18 +46,18 @@ const char* const kOwners[3] = { "Texture1", "Texture2", "Texture3" };
 class RebindScope
 {
 public:
-    RebindScope(void(APIENTRY* bind)(GLenum, GLuint), GLenum target, GLuint previous)
+    RebindScope(void (WrapperCall::*bind)(GLenum, GLuint) const, GLenum target, GLuint previous)
         : bind_(bind)
         , target_(target)
         , previous_(previous)
     {
     }
-    ~RebindScope() { bind_(target_, previous_); }
+    ~RebindScope() { ORU_WRAPPER_GL_NOTHROW invoke(bind_, target_, previous_); }
     RebindScope(RebindScope const&) = delete;
     RebindScope& operator=(RebindScope const&) = delete;
 
 private:
-    void(APIENTRY* bind_)(GLenum, GLuint);
+    void (WrapperCall::*bind_)(GLenum, GLuint) const;
     GLenum target_;
     GLuint previous_;
 };
@@ -72,9 +72,9 @@ private:
 class TextureTransfer::PixelStoreScope
 {
 public:
-    PixelStoreScope() { glPushClientAttrib(GL_CLIENT_PIXEL_STORE_BIT); }
+    PixelStoreScope() { ORU_WRAPPER_GL glPushClientAttrib(GL_CLIENT_PIXEL_STORE_BIT); }
     explicit PixelStoreScope(unsigned int packAlignment) { Texture::pushAndSetReadbackByteAlignment(packAlignment); }
-    ~PixelStoreScope() { Texture::popPixelTransferModes(); }
+    ~PixelStoreScope() { ORU_WRAPPER_GL_NOTHROW glPopClientAttrib(); } // popPixelTransferModes(), never throwing
     PixelStoreScope(PixelStoreScope const&) = delete;
     PixelStoreScope& operator=(PixelStoreScope const&) = delete;
 };
@@ -106,8 +106,8 @@ void TextureTransfer::checkGL(char const* member) const
 
 void TextureTransfer::allocate(bool mipmaps) const
 {
-    RebindScope rebind(glBindTexture, texture_.target(), texture_.getBoundID());
-    glBindTexture(texture_.target(), texture_.objectID());
+    RebindScope rebind(&WrapperCall::glBindTexture, texture_.target(), texture_.getBoundID());
+    ORU_WRAPPER_GL glBindTexture(texture_.target(), texture_.objectID());
     std::size_t size[3] = { texture_.width(0), texture_.height(0), texture_.depth(0) };
     int level = 0;
     texImage(level, size, GL_BGRA, GL_UNSIGNED_BYTE, NULL);
@@ -133,8 +133,8 @@ void TextureTransfer::allocate(int level, Texture::Format format, Texture::Type 
 {
     const GLenum glFormat = Texture::Format2GL(format);
     const GLenum glType = Texture::Type2GL(type);
-    RebindScope rebind(glBindTexture, texture_.target(), texture_.getBoundID());
-    glBindTexture(texture_.target(), texture_.objectID());
+    RebindScope rebind(&WrapperCall::glBindTexture, texture_.target(), texture_.getBoundID());
+    ORU_WRAPPER_GL glBindTexture(texture_.target(), texture_.objectID());
     const std::size_t size[3] = { texture_.width(0), texture_.height(0), texture_.depth(0) };
     texImage(level, size, glFormat, glType, data);
     setStorageParameters();
@@ -147,12 +147,12 @@ void TextureTransfer::setStorageParameters() const
 {
     static const GLenum kWrapAxes[3] = { GL_TEXTURE_WRAP_S, GL_TEXTURE_WRAP_T, GL_TEXTURE_WRAP_R };
     const GLenum target = texture_.target();
-    glTexParameteri(target, GL_TEXTURE_MIN_FILTER, static_cast<GLint>(Texture::Filter2GL(Texture::NEAREST)));
-    glTexParameteri(target, GL_TEXTURE_MAG_FILTER, static_cast<GLint>(Texture::Filter2GL(Texture::NEAREST)));
+    ORU_WRAPPER_GL glTexParameteri(target, GL_TEXTURE_MIN_FILTER, static_cast<GLint>(Texture::Filter2GL(Texture::NEAREST)));
+    ORU_WRAPPER_GL glTexParameteri(target, GL_TEXTURE_MAG_FILTER, static_cast<GLint>(Texture::Filter2GL(Texture::NEAREST)));
     const Texture::WrapMode wrap =
         ExtensionManager::Instance()->supportsClampToEdge() ? Texture::CLAMP_TO_EDGE : Texture::CLAMP;
     for (int axis = 0; axis < dimensions_; ++axis)
-        glTexParameteri(target, kWrapAxes[axis], static_cast<GLint>(Texture::WrapMode2GL(wrap)));
+        ORU_WRAPPER_GL glTexParameteri(target, kWrapAxes[axis], static_cast<GLint>(Texture::WrapMode2GL(wrap)));
 }
 
 // ---------------------------------------------------------------------------
@@ -185,7 +185,7 @@ void TextureTransfer::getPixelData(void* dst, int level, Texture::Format format,
     const GLenum glFormat = Texture::Format2GL(format);
     const GLenum glType = Texture::Type2GL(type);
     PixelStoreScope store(rowAlignment);
-    glGetTexImage(texture_.target(), level, glFormat, glType, dst);
+    ORU_WRAPPER_GL glGetTexImage(texture_.target(), level, glFormat, glType, dst);
     checkGL("getPixelData");
 }
 
@@ -207,9 +207,9 @@ void TextureTransfer::getPixelData(Buffer* pbo, std::size_t offset, int level, T
     PixelStoreScope store(rowAlignment);
     if (!pbo->isPackBuffer())
         pbo->convertToPackBuffer();
-    RebindScope rebind(_cgmBindBuffer, pbo->target(), pbo->getBoundID());
+    RebindScope rebind(&WrapperCall::glBindBuffer, pbo->target(), pbo->getBoundID());
     pbo->bind();
-    glGetTexImage(texture_.target(), level, glFormat, glType, reinterpret_cast<void*>(offset));
+    ORU_WRAPPER_GL glGetTexImage(texture_.target(), level, glFormat, glType, reinterpret_cast<void*>(offset));
     checkGL("getPixelData");
 }
 
@@ -256,7 +256,7 @@ void TextureTransfer::subImage(int level, Region const& region, Texture::Format 
     unpack.apply();
     if (!pbo->isUnpackBuffer())
         pbo->convertToUnpackBuffer();
-    RebindScope rebind(_cgmBindBuffer, pbo->target(), pbo->getBoundID());
+    RebindScope rebind(&WrapperCall::glBindBuffer, pbo->target(), pbo->getBoundID());
     pbo->bind();
     texSubImage(level, region, glFormat, glType, reinterpret_cast<const void*>(offset));
     checkGL("subImage");
@@ -277,9 +277,9 @@ void TextureTransfer::copyTexSubImage(int level, Region const& region, int readX
     const GLsizei height = static_cast<GLsizei>(region.height);
     switch (dimensions_)
     {
-    case 1: glCopyTexSubImage1D(target, level, region.x, readX, readY, width); break;
-    case 2: glCopyTexSubImage2D(target, level, region.x, region.y, readX, readY, width, height); break;
-    default: _cgmCopyTexSubImage3D(target, level, region.x, region.y, region.z, readX, readY, width, height);
+    case 1: ORU_WRAPPER_GL glCopyTexSubImage1D(target, level, region.x, readX, readY, width); break;
+    case 2: ORU_WRAPPER_GL glCopyTexSubImage2D(target, level, region.x, region.y, readX, readY, width, height); break;
+    default: ORU_WRAPPER_GL glCopyTexSubImage3D(target, level, region.x, region.y, region.z, readX, readY, width, height);
     }
     checkGL("copyTexSubImage");
 }
@@ -320,9 +320,9 @@ void TextureTransfer::texImage(int level, std::size_t const* size, unsigned int 
     const GLsizei d = static_cast<GLsizei>(size[2]);
     switch (dimensions_)
     {
-    case 1: glTexImage1D(target, level, internalFormat, w, 0, format, type, data); break;
-    case 2: glTexImage2D(target, level, internalFormat, w, h, 0, format, type, data); break;
-    default: _cgmTexImage3D(target, level, internalFormat, w, h, d, 0, format, type, data);
+    case 1: ORU_WRAPPER_GL glTexImage1D(target, level, internalFormat, w, 0, format, type, data); break;
+    case 2: ORU_WRAPPER_GL glTexImage2D(target, level, internalFormat, w, h, 0, format, type, data); break;
+    default: ORU_WRAPPER_GL glTexImage3D(target, level, internalFormat, w, h, d, 0, format, type, data);
     }
 }
 
@@ -334,9 +334,9 @@ void TextureTransfer::texSubImage(int level, Region const& region, unsigned int 
     const GLsizei d = static_cast<GLsizei>(region.depth);
     switch (dimensions_)
     {
-    case 1: glTexSubImage1D(target, level, region.x, w, format, type, pixels); break;
-    case 2: glTexSubImage2D(target, level, region.x, region.y, w, h, format, type, pixels); break;
-    default: _cgmTexSubImage3D(target, level, region.x, region.y, region.z, w, h, d, format, type, pixels);
+    case 1: ORU_WRAPPER_GL glTexSubImage1D(target, level, region.x, w, format, type, pixels); break;
+    case 2: ORU_WRAPPER_GL glTexSubImage2D(target, level, region.x, region.y, w, h, format, type, pixels); break;
+    default: ORU_WRAPPER_GL glTexSubImage3D(target, level, region.x, region.y, region.z, w, h, d, format, type, pixels);
     }
 }
 

@@ -4,12 +4,12 @@
 #include "oru_ogl/extensionator/ExtensionManager.h"
 #include "oru_ogl/ogl/GLConstants.h"
 #include "oru_ogl/ogl/TwoWayTable.h"
+#include "oru_ogl/ogl/WrapperCall.h"
 #include "oru_ogl/ogl/WrapperCheck.h"
 
-// The texture-unit table. One object per fixed-function unit of the context the
-// layer was started for, made by Library at start-up and deleted at shutdown.
-// The objects carry their index only; every GL call acts on the unit that is
-// active at the time, which the caller selects (TextureState::setActiveTexture).
+// The texture-unit table: one object per fixed-function unit of the context the layer was
+// started for, made by Library at start-up and deleted at shutdown. The objects carry their
+// index only; every GL call acts on the unit active at the time, which the caller selects.
 
 namespace Oru
 {
@@ -37,10 +37,10 @@ unsigned int TextureUnit::nMaxTextureUnit_ = 0;
 // count comes from the extension manager, which must exist already.
 void TextureUnit::Create(Context* /*pContext*/)
 {
-    // Start-up's step in the wrappers' part of the layer: the wrappers' GL
-    // error check is switched by the options here, so that each check costs
-    // one test of a flag.
+    // Start-up's step in the wrappers' part of the layer: the options that
+    // cost the wrappers one test of a flag each are switched here.
     WrapperCheck::switchOn(ExtensionManager::Instance()->initOptions().checkedWrappers());
+    WrapperCall::switchOn(ExtensionManager::Instance()->initOptions().wrappersThroughChain());
     if (nMaxTextureUnit_ != 0)
         return;
     const unsigned int count = ExtensionManager::Instance()->numberOfTextureUnits();
@@ -50,11 +50,11 @@ void TextureUnit::Create(Context* /*pContext*/)
     nMaxTextureUnit_ = count;
 }
 
-// Deletes every unit; the table is empty again and Unit() refuses until the
-// next start-up.
+// Deletes every unit; the table is empty again and Unit() refuses until the next start-up.
 void TextureUnit::Destroy()
 {
     WrapperCheck::switchOn(false);
+    WrapperCall::switchOn(false);
     for (TextureUnit* unit : units_)
         delete unit;
     units_.clear();
@@ -103,28 +103,28 @@ TextureUnit* TextureUnit::Unit(unsigned int unit)
 void TextureUnit::bindTexture(unsigned int target, unsigned int name) const
 {
     verifyActiveTexture();
-    glBindTexture(target, name);
+    ORU_WRAPPER_GL glBindTexture(target, name);
     ORU_CHECK_GL(TextureUnit);
 }
 
 void TextureUnit::enable(unsigned int target) const
 {
     verifyActiveTexture();
-    glEnable(target);
+    ORU_WRAPPER_GL glEnable(target);
     ORU_CHECK_GL(TextureUnit);
 }
 
 void TextureUnit::disable(unsigned int target) const
 {
     verifyActiveTexture();
-    glDisable(target);
+    ORU_WRAPPER_GL glDisable(target);
     ORU_CHECK_GL(TextureUnit);
 }
 
 bool TextureUnit::isEnabled(unsigned int target) const
 {
     verifyActiveTexture();
-    const bool enabled = glIsEnabled(target) == GL_TRUE;
+    const bool enabled = ORU_WRAPPER_GL glIsEnabled(target) == GL_TRUE;
     ORU_CHECK_GL(TextureUnit);
     return enabled;
 }
@@ -167,7 +167,7 @@ void TextureUnit::setEnv(Environment mode) const
 {
     verifyActiveTexture();
     const GLint glMode = static_cast<GLint>(Environment2GL(mode));
-    glTexEnvi(GL_TEXTURE_ENV, GL_TEXTURE_ENV_MODE, glMode);
+    ORU_WRAPPER_GL glTexEnvi(GL_TEXTURE_ENV, GL_TEXTURE_ENV_MODE, glMode);
     ORU_CHECK_GL(TextureUnit);
 }
 
