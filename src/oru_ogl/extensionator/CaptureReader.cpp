@@ -94,6 +94,12 @@ public:
         throw CaptureError(text.str(), start_, call_);
     }
     std::size_t at() const { return at_; }
+    // No window or frame of a capture is larger than GL's largest viewport.
+    void checkSize(char const* what, int width, int height) const
+    {
+        if (width < 0 || height < 0 || width > 65536 || height > 65536)
+            corrupt(std::string(what) + " size " + std::to_string(width) + "x" + std::to_string(height));
+    }
 
 private:
     std::vector<unsigned char> const& bytes_;
@@ -261,8 +267,7 @@ bool CaptureReader::next(CaptureRecord& record)
                 record.width = cursor.read<std::int32_t>();
                 record.height = cursor.read<std::int32_t>();
                 std::memcpy(record.pixelFormat, cursor.take(8), 8);
-                if (record.width < 0 || record.height < 0 || record.width > 65536 || record.height > 65536)
-                    cursor.corrupt("window size " + std::to_string(record.width) + "x" + std::to_string(record.height));
+                cursor.checkSize("window", record.width, record.height);
                 break;
             case kFrame:
                 record.kind = CaptureRecord::Kind::Frame;
@@ -271,8 +276,7 @@ bool CaptureReader::next(CaptureRecord& record)
                 record.width = static_cast<int>(cursor.read<std::uint32_t>());
                 record.height = static_cast<int>(cursor.read<std::uint32_t>());
                 record.checksum = cursor.read<std::uint64_t>();
-                if (record.width < 0 || record.height < 0 || record.width > 65536 || record.height > 65536)
-                    cursor.corrupt("frame size " + std::to_string(record.width) + "x" + std::to_string(record.height));
+                cursor.checkSize("frame", record.width, record.height);
                 if (cursor.read<std::uint8_t>())
                     record.data = cursor.take(std::uint64_t(record.width) * record.height * 4);
                 break;
