@@ -5,7 +5,7 @@
 """
 import sys
 
-from . import entrypoints, operations, pointers, replay, tokens
+from . import entrypoints, operations, pointers, replay, routed, tokens
 
 TARGETS = {
     "tokens": tokens,
@@ -13,6 +13,7 @@ TARGETS = {
     "operations": operations,
     "replay": replay,
     "pointers": pointers,
+    "routed": routed,
 }
 
 
