@@ -4,7 +4,7 @@
 # must print the same frame lines, all different (the frames are animated).
 # With TRACE (a file in WORK), the routed build runs with ORU_TRACE=TRACE and the
 # trace must have, for each of CALLS ("|" between them), a line of SOURCE with it:
-# "tests/apps/x.cpp:<line>: <call>...".
+# "tests/apps/x.cpp:<line>: <call>...", and no line with UNTRACED.
 # With UNTRACEABLE, TRACE cannot be written: the routed build must say so once
 # on its standard error and draw the same frames all the same.
 cmake_minimum_required(VERSION 3.21)
@@ -67,6 +67,12 @@ elseif(TRACE)
       message(FATAL_ERROR "the trace ${TRACE} has no line of ${SOURCE} with ${expected}")
     endif()
   endforeach()
+  if(UNTRACED)
+    string(FIND "${trace}" ": ${UNTRACED}" found)
+    if(NOT found EQUAL -1)
+      message(FATAL_ERROR "the trace ${TRACE} has ${UNTRACED}, which the layer does not know")
+    endif()
+  endif()
   string(REGEX MATCHALL "\n" lines "${trace}")
   list(LENGTH lines count)
   message(STATUS "${count} calls traced, the program's own among them")

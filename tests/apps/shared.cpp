@@ -59,11 +59,16 @@ static void closeView(View& view)
 // A textured wheel of 12 spokes (list + 0) and its hub (list + 1).
 static GLuint buildShared(GLuint* texture)
 {
+    // Edge clamping where the driver has it, so that the spokes' ends stay clean.
+    const char* extensions = reinterpret_cast<const char*>(glGetString(GL_EXTENSIONS));
+    const bool edgeClamp = extensions && (std::strstr(extensions, "GL_EXT_texture_edge_clamp") ||
+                                          std::strstr(extensions, "GL_SGIS_texture_edge_clamp"));
     const GLubyte checker[] = {255, 255, 255, 40, 40, 160, 40, 40, 160, 255, 255, 255};
     glGenTextures(1, texture);
     glBindTexture(GL_TEXTURE_2D, *texture);
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, edgeClamp ? GL_CLAMP_TO_EDGE : GL_CLAMP);
     glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
     glTexImage2D(GL_TEXTURE_2D, 0, GL_RGB8, 2, 2, 0, GL_RGB, GL_UNSIGNED_BYTE, checker);
 
