@@ -5,7 +5,7 @@
 """
 import sys
 
-from . import entrypoints, objects, operations, pointers, replay, tokens
+from . import entrypoints, objects, operations, pointers, replay, routed, tokens
 
 TARGETS = {
     "tokens": tokens,
@@ -14,6 +14,7 @@ TARGETS = {
     "replay": replay,
     "pointers": pointers,
     "objects": objects,
+    "routed": routed,
 }
 
 
