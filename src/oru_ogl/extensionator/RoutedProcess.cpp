@@ -1,6 +1,7 @@
 #include "oru_ogl/extensionator/RoutedProcess.h"
 
 #include "oru_ogl/LibraryOGL.h"
+#include "oru_ogl/extensionator/CaptureSession.h"
 #include "oru_ogl/extensionator/OpenGLTracer.h"
 #include "oru_ogl/extensionator/OperationList.h"
 #include "oru_ogl/extensionator/windows/wglInterceptor.h"
@@ -149,6 +150,7 @@ RoutedProcess::RoutedProcess()
     : traceFile_(nullptr)
     , tracer_(nullptr)
     , contextSetUp_(nullptr)
+    , capture_(nullptr)
 {
     if (gActiveProcess)
         return;
@@ -158,7 +160,9 @@ RoutedProcess::RoutedProcess()
     if (!tracePath.empty())
         startTrace(tracePath.c_str());
 
-    // ORU_CAPTURE=<file>: the capture decorator is pushed here, after the tracer.
+    const std::string capturePath = EnvironmentValue("ORU_CAPTURE");
+    if (!capturePath.empty())
+        startCapture(capturePath);
 
     contextSetUp_ = new ContextSetUp(traceFile_);
     wglInterceptor::Instance()->addInterceptor(contextSetUp_);
@@ -174,6 +178,8 @@ RoutedProcess::~RoutedProcess()
         static_cast<ContextSetUp*>(contextSetUp_)->stopLayer();
         if (PopIfTop<wglInterceptor>(contextSetUp_))
             delete contextSetUp_;
+        delete capture_; // takes itself off both chains, wherever it is, and writes the rest
+        capture_ = nullptr;
         if (tracer_ && PopIfTop<OpenGLInterceptor>(tracer_))
         {
             delete tracer_;
@@ -187,6 +193,19 @@ RoutedProcess::~RoutedProcess()
     }
     if (!tracer_)
         delete traceFile_; // flushes and closes; a tracer still in the chain keeps it
+}
+
+// Pushed after the tracer, so that a traced call is captured as well.
+void RoutedProcess::startCapture(std::string const& path)
+{
+    try
+    {
+        capture_ = new CaptureSession(path);
+    }
+    catch (std::exception const& error)
+    {
+        std::cerr << error.what() << "; the program runs without a capture\n";
+    }
 }
 
 bool RoutedProcess::isActive() const

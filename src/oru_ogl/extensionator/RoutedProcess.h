@@ -7,12 +7,14 @@
 #include "oru_ogl/OglExport.h"
 
 #include <iosfwd>
+#include <string>
 
 namespace Oru
 {
 namespace OGL
 {
 
+class CaptureSession;
 class OpenGLTracer;
 class wglInterceptorDecorator;
 
@@ -26,7 +28,10 @@ class wglInterceptorDecorator;
 /// - with the environment variable ORU_TRACE=<file>, an OpenGLTracer writing to
 ///   that file, flushed at every SwapBuffers and at the end. A file that cannot
 ///   be written is reported once on the standard error stream and the program
-///   runs untraced.
+///   runs untraced;
+/// - with ORU_CAPTURE=<file>, a CaptureSession into that file (for oglreplay),
+///   which writes every frame at its SwapBuffers and the rest at the end. A
+///   file that cannot be created is reported the same way.
 /// Only the first object alive in a process does this; another one made while
 /// it exists changes nothing. The destructor pops what the constructor pushed,
 /// stops the layer if it started it, and throws nothing.
@@ -45,10 +50,12 @@ public:
 
 private:
     void startTrace(char const* path);
+    void startCapture(std::string const& path);
 
     std::ofstream* traceFile_;
     OpenGLTracer* tracer_;
     wglInterceptorDecorator* contextSetUp_;
+    CaptureSession* capture_;
 };
 
 } // namespace OGL
