@@ -57,8 +57,9 @@ public:
     /// @throws Oru::InternalException "!\"Format enums are not all properly translated.\""
     ///         or "!\"Type enums are not all properly translated.\"" for values
     ///         outside the enumerations
-    /// @throws Oru::OGL::ExceptionOGL "Texture1::getPixelData: <gluErrorString text>" with
-    ///         checked wrappers on, when GL has an error pending afterwards
+    /// @throws Oru::OGL::ExceptionOGL "Object::getBoundID: <gluErrorString text>" or
+    ///         "Texture1::getPixelData: <gluErrorString text>" with checked wrappers on,
+    ///         when GL has an error pending after a step
     void getPixelData(void* dst, int level, Format format, Type type, unsigned int rowAlignment) const;
     /// Reads a level back into a pixel buffer at offset, to be collected later
     /// without a stall now. The buffer becomes a pack buffer and stays one; its
@@ -78,7 +79,7 @@ public:
     ///         or "!\"Type enums are not all properly translated.\"" for values
     ///         outside the enumerations
     /// @throws Oru::OGL::ExceptionOGL "Texture1::getPixelData: <gluErrorString text>" (or
-    ///         the buffer's own "Buffer::<member>: ...") with checked wrappers on,
+    ///         "Object::getBoundID: ..." or "Buffer::bind: ...") with checked wrappers on,
     ///         when GL has an error pending after a step
     void getPixelData(Buffer* pbo, std::size_t offset, int level, Format format, Type type,
                       unsigned int rowAlignment) const;

@@ -34,8 +34,9 @@ public:
     ///         this texture is bound to its target on the active unit;
     ///         "!\"WrapMode enums are not all properly translated.\"" for a value
     ///         outside the enumeration
-    /// @throws Oru::OGL::ExceptionOGL "Texture2::setWrap: <gluErrorString text>" with
-    ///         checked wrappers on, when GL has an error pending afterwards
+    /// @throws Oru::OGL::ExceptionOGL "Object::getBoundID: <gluErrorString text>" or
+    ///         "Texture2::setWrap: <gluErrorString text>" with checked wrappers on,
+    ///         when GL has an error pending after a step
     void setWrap(WrapMode s, WrapMode t);
 
     /// Bytes of the level-0 image as client data in format and type, without
@@ -65,8 +66,9 @@ public:
     /// @throws Oru::InternalException "!\"Format enums are not all properly translated.\""
     ///         or "!\"Type enums are not all properly translated.\"" for values
     ///         outside the enumerations
-    /// @throws Oru::OGL::ExceptionOGL "Texture2::getPixelData: <gluErrorString text>" with
-    ///         checked wrappers on, when GL has an error pending afterwards
+    /// @throws Oru::OGL::ExceptionOGL "Object::getBoundID: <gluErrorString text>" or
+    ///         "Texture2::getPixelData: <gluErrorString text>" with checked wrappers on,
+    ///         when GL has an error pending after a step
     void getPixelData(void* dst, int level, Format format, Type type, unsigned int rowAlignment) const;
     /// Reads a level back into a pixel buffer at offset, to be collected later
     /// without a stall now. The buffer becomes a pack buffer and stays one; its
@@ -86,7 +88,7 @@ public:
     ///         or "!\"Type enums are not all properly translated.\"" for values
     ///         outside the enumerations
     /// @throws Oru::OGL::ExceptionOGL "Texture2::getPixelData: <gluErrorString text>" (or
-    ///         the buffer's own "Buffer::<member>: ...") with checked wrappers on,
+    ///         "Object::getBoundID: ..." or "Buffer::bind: ...") with checked wrappers on,
     ///         when GL has an error pending after a step
     void getPixelData(Buffer* pbo, std::size_t offset, int level, Format format, Type type,
                       unsigned int rowAlignment) const;
