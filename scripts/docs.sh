@@ -2,7 +2,8 @@
 # Generates the reference documentation of the public headers with Doxygen into
 # build/docs/html. Installs what is missing (Doxygen included), configures and
 # generates the generated headers first; fails on any Doxygen warning, such as
-# a public member without documentation.
+# a public member without documentation, or a parameter or result of the
+# library's own headers without one (second pass, docs/Doxyfile-parameters).
 set -euo pipefail
 . "$(dirname "$0")/env.sh"
 ORU_PACKAGES="$ORU_PACKAGES doxygen"
@@ -18,11 +19,15 @@ mkdir -p "$ORU_BUILD/docs"
 oru_log "running doxygen $(doxygen --version)"
 status=0
 (cd "$ORU_ROOT" && doxygen docs/Doxyfile) || status=$?
+# The library's own headers also document every parameter and result.
+mkdir -p "$ORU_BUILD/docs/parameters"
+oru_log "checking the parameters and results of the library's headers"
+(cd "$ORU_ROOT" && doxygen docs/Doxyfile-parameters) || status=$?
 
-log="$ORU_BUILD/docs/warnings.log"
-count=$(grep -c . "$log" 2>/dev/null || true)
+logs=("$ORU_BUILD/docs/warnings.log" "$ORU_BUILD/docs/parameters/warnings.log")
+count=$(cat "${logs[@]}" 2>/dev/null | grep -c . || true)
 if [ "$status" -ne 0 ] || [ "${count:-0}" -ne 0 ]; then
-    cat "$log" >&2 2>/dev/null || true
+    cat "${logs[@]}" >&2 2>/dev/null || true
     oru_log "doxygen: ${count:-0} warning lines, exit status $status"
     exit 1
 fi

@@ -20,9 +20,11 @@ public:
     /// @param message     the text of the error (gluErrorString)
     /// @param errorNumber the value glGetError returned
     ExceptionOGL(char const* file, unsigned int line, char const* message, unsigned int errorNumber);
-    /// Copies the exception.
+    /// Copies the exception, its error number included.
+    /// @param other the exception to copy
     ExceptionOGL(ExceptionOGL const& other);
-    /// Assigns another exception.
+    /// Assigns another exception, its error number included.
+    /// @param other the exception to copy
     /// @return this exception
     ExceptionOGL& operator=(ExceptionOGL const& other);
     virtual ~ExceptionOGL();

@@ -25,8 +25,12 @@ public:
     /// @param options  stored and handed back by ExtensionManager::initOptions()
     /// @throws Oru::InternalException "Enforce pContext != NULL" for a null
     ///         context, "!bExtensionatorInitialized_" when the layer is already
-    ///         started (both from LibraryOGL), and the extension manager's and
-    ///         the texture-unit table's refusals while they are built
+    ///         started (both from LibraryOGL); while the manager is built,
+    ///         "Context::can't make this context current" followed by
+    ///         GetLastError()'s number, and "DriverDebugOutput needs GL_KHR_debug
+    ///         or GL_ARB_debug_output" when InitOptions::setDriverDebugOutput(true)
+    ///         asks for debug output the driver cannot give. A failure leaves the
+    ///         layer not started, so the start can be tried again.
     static void initializeExtensionator(Context* pContext, ExtensionManager::InitOptions const& options);
     /// Destroys the extension manager, then the texture-unit table. Refuses a
     /// shutdown without start-up.

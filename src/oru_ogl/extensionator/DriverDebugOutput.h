@@ -53,9 +53,14 @@ public:
     /// Receives the messages that are not errors, with the checked call's file and line.
     typedef std::function<void(char const* file, unsigned int line, Message const& message)> Sink;
 
-    /// Installs the callback for the current context. Without a sink the
-    /// messages are written to the standard error stream. Throws
-    /// InternalException when the driver offers neither extension.
+    /// Installs the callback for the current context and makes its output
+    /// synchronous.
+    /// @param minimum the least severity of the messages that are not errors to
+    ///                pass to the sink
+    /// @param sink    where those go; empty for the standard error stream
+    /// @throws Oru::InternalException
+    ///         "DriverDebugOutput needs GL_KHR_debug or GL_ARB_debug_output" when
+    ///         the driver offers neither extension
     DriverDebugOutput(teSeverity minimum, Sink const& sink);
     /// Removes the callback from the current context, if one is current.
     ~DriverDebugOutput();
@@ -63,9 +68,17 @@ public:
     DriverDebugOutput& operator=(DriverDebugOutput const&) = delete;
 
     /// Whether messages wait for the next check; one test of a flag per checked call.
+    /// @return true when the queue holds messages
     static bool hasPending() { return bPending_; }
-    /// Hands the waiting messages over: the others to the sink, then the first
-    /// error as ExceptionOGL(file, line, its text, glError).
+    /// Hands the waiting messages over: the others to the sink (with a note of
+    /// how many were dropped when the queue was full), then the first error as
+    /// an exception. The error checker calls it after each checked call.
+    /// @param file    the checked call's file
+    /// @param line    the checked call's line
+    /// @param glError what glGetError answered for the call, the exception's number
+    /// @throws Oru::OGL::ExceptionOGL from file and line with the driver's text of
+    ///         the first waiting message of type GL_DEBUG_TYPE_ERROR and glError
+    ///         as its number; and whatever the sink throws
     static void deliver(char const* file, unsigned int line, GLenum glError);
 
 private:

@@ -24,6 +24,8 @@ class CallSite
 {
 public:
     /// The call site: the caller's file and line.
+    /// @param file the caller's source file, as its `__FILE__`; kept, not copied
+    /// @param line the caller's line, as its `__LINE__`
     CallSite(char const* file, unsigned int line) : file_(file), line_(line) {}
 
 #define ORU_CALL_SITE(Ret, Stem, Params, Args, callee)                                                 \

@@ -20,6 +20,7 @@ namespace OGL
 class ORU_OGL_API OpenGLErrorChecker : public OpenGLInterceptor
 {
 public:
+    /// A checker with no glBegin/glEnd pair open.
     OpenGLErrorChecker();
 
 #define ORU_GL_OPERATION_TAIL override
@@ -31,6 +32,12 @@ public:
     /// The check after each call: throws ExceptionOGL for a pending GL error,
     /// unless a glBegin/glEnd pair is open, after handing over the driver's
     /// debug messages of the call (DriverDebugOutput) when they are on.
+    /// @param file the caller's source file, reported by the exception
+    /// @param line the caller's line
+    /// @throws Oru::OGL::ExceptionOGL from file and line with the text of
+    ///         gluErrorString for the code ("unknown OpenGL error" where GLU has
+    ///         none) and the code as errorNumber(), or the driver's message as
+    ///         DriverDebugOutput::deliver() throws it
     void checkError(char const* file, unsigned int line) const
     {
         if (inBeginEnd_)
@@ -43,10 +50,22 @@ public:
     }
 
     /// Throws InternalException for a call through an entry point that was never loaded.
+    /// @param file     the caller's source file, reported by the exception
+    /// @param line     the caller's line
+    /// @param function the GL function's name, "glGenBuffers" say
+    /// @throws Oru::InternalException "<function> is not loaded: its entry-point
+    ///         pointer is null (the driver lacks it, or the layer has not loaded the
+    ///         core version or extension it belongs to)", always
     [[noreturn]] static void raiseNotLoaded(char const* file, unsigned int line, char const* function);
 
     /// The checker's work for one operation: calls function with the
     /// arguments, then checkError(file, line), and returns the call's result.
+    /// @param file      the caller's source file, reported by an exception
+    /// @param line      the caller's line
+    /// @param function  the GL function or entry point to call
+    /// @param arguments its arguments, passed on unchanged
+    /// @return what function returned
+    /// @throws Oru::OGL::ExceptionOGL as checkError()
     template <class Function, class... Arguments>
     auto perform(char const* file, unsigned int line, Function function, Arguments... arguments) const
         -> decltype(function(arguments...))
@@ -65,6 +84,12 @@ public:
     }
 
     /// The entry point behind pointer, refused (raiseNotLoaded) when it was never loaded.
+    /// @param pointer  an entry-point pointer variable's value
+    /// @param file     the caller's source file, reported by an exception
+    /// @param line     the caller's line
+    /// @param function the GL function's name, for the message
+    /// @return pointer, not null
+    /// @throws Oru::InternalException as raiseNotLoaded() for a null pointer
     template <class Pointer>
     static Pointer loaded(Pointer pointer, char const* file, unsigned int line, char const* function)
     {

@@ -13,16 +13,22 @@ namespace OGL
 class ORU_OGL_API OpenGLInterceptorDecorator : public OpenGLInterceptor
 {
 public:
+    /// A decorator with no next interceptor yet; push it with
+    /// OpenGLInterceptor::addInterceptor() or call setInterceptor() before use.
     OpenGLInterceptorDecorator();
     /// A decorator forwarding to next.
+    /// @param next the interceptor to forward to; not owned
     explicit OpenGLInterceptorDecorator(OpenGLInterceptor* next);
     virtual ~OpenGLInterceptorDecorator();
 
     /// Forwards to next from now on.
+    /// @param next the interceptor to forward to; not owned
     void setInterceptor(OpenGLInterceptor* next);
     /// The next interceptor.
+    /// @return it, or null before one is set
     OpenGLInterceptor* interceptor() { return pInterceptor_; }
     /// The next interceptor.
+    /// @return it, or null before one is set
     OpenGLInterceptor const* interceptor() const { return pInterceptor_; }
 
 protected:

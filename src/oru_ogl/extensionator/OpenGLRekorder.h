@@ -31,37 +31,49 @@ class CallText;
 /// their own (matrices, texture uploads, uniforms, shader sources, name arrays,
 /// a few queries and vectors); any other call with a pointer parameter is
 /// recorded as a call of OpenGLRekorderUnsupported naming it. The replay program
-/// supplies makeFloat, OpenGLRekorderUnsupported and pBinaryInputStream (see
-/// replay/ in the source tree).
+/// supplies makeFloat, OpenGLRekorderUnsupported and pBinaryInputStream (the
+/// oru_replay library's Replay.h declares them).
 ///
 /// The streams are not owned, flushed or checked. One binary stream belongs to
 /// one recorder: the offsets in the text count what this recorder wrote.
 class ORU_OGL_API OpenGLRekorder : public OpenGLInterceptorDecorator
 {
 public:
-    /// Records onto code (text) and data (binary), forwarding to next (or to
-    /// the chain's top when pushed with addInterceptor); lineComments ends each
-    /// recorded call with a comment naming the caller's file and line.
+    /// Records onto code (text) and data (binary), forwarding to next.
+    /// @param code         the text stream; not owned, must outlive the recorder
+    /// @param data         the binary stream (open it in binary mode); not owned
+    /// @param next         the interceptor to forward to, or null when the
+    ///                     recorder is pushed with OpenGLInterceptor::addInterceptor()
+    /// @param lineComments whether each recorded call ends with a comment naming
+    ///                     the caller's file and line
     OpenGLRekorder(std::ostream& code, std::ostream& data, OpenGLInterceptor* next, bool lineComments);
     virtual ~OpenGLRekorder();
 
     /// The code stream.
+    /// @return the text stream, not owned
     std::ostream* outputStream() { return outputStream_; }
     /// The code stream.
+    /// @return the text stream, not owned
     std::ostream const* outputStream() const { return outputStream_; }
     /// The binary stream.
+    /// @return the binary stream, not owned
     std::ostream* binaryOutputStream() { return binaryOutputStream_; }
     /// The binary stream.
+    /// @return the binary stream, not owned
     std::ostream const* binaryOutputStream() const { return binaryOutputStream_; }
     /// Writes the text from now on to code.
+    /// @param code the new text stream; not owned
     void setOutputStream(std::ostream& code) { outputStream_ = &code; }
-    /// The offsets keep counting from where they were: the new stream is taken
-    /// to continue the old one.
+    /// Writes the blocks from now on to data. The offsets keep counting from
+    /// where they were: the new stream is taken to continue the old one.
+    /// @param data the new binary stream; not owned
     void setBinaryOutputStream(std::ostream& data) { binaryOutputStream_ = &data; }
 
     /// Bytes written to the binary stream so far.
+    /// @return the offset the next block starts at
     std::uint32_t binaryOffset() const { return binaryOffset_; }
     /// Whether each recorded call ends with a file-and-line comment.
+    /// @return as given at construction
     bool lineComments() const { return lineComments_; }
 
 #define ORU_GL_OPERATION_TAIL override

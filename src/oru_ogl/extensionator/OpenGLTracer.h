@@ -23,16 +23,21 @@ namespace OGL
 class ORU_OGL_API OpenGLTracer : public OpenGLInterceptorDecorator
 {
 public:
-    /// Traces onto out, forwarding to next (or to the chain's top when pushed
-    /// with addInterceptor).
+    /// Traces onto out, forwarding to next.
+    /// @param out  the trace stream; not owned, must outlive the tracer
+    /// @param next the interceptor to forward to, or null when the tracer is
+    ///             pushed with OpenGLInterceptor::addInterceptor()
     explicit OpenGLTracer(std::ostream& out = std::cout, OpenGLInterceptor* next = nullptr);
     virtual ~OpenGLTracer();
 
     /// The trace stream.
+    /// @return the stream, not owned
     std::ostream* outputStream() { return outputStream_; }
     /// The trace stream.
+    /// @return the stream, not owned
     std::ostream const* outputStream() const { return outputStream_; }
     /// Traces from now on to out.
+    /// @param out the new trace stream; not owned
     void setOutputStream(std::ostream& out) { outputStream_ = &out; }
 
 #define ORU_GL_OPERATION_TAIL override

@@ -33,41 +33,67 @@ public:
     };
 
     /// Bit depths and whether colour is floating point, kept as given.
+    /// @param red                bits of red
+    /// @param green              bits of green
+    /// @param blue               bits of blue
+    /// @param alpha              bits of alpha
+    /// @param stencil            bits of stencil
+    /// @param depth              bits of depth
+    /// @param floatingPointColor whether the colour channels are floating point
     BufferFormat(unsigned int red, unsigned int green, unsigned int blue, unsigned int alpha,
                  unsigned int stencil, unsigned int depth, bool floatingPointColor);
-    /// Throws InternalException for a value outside 0 to 23.
+    /// One of the predefined formats.
+    /// @param format its number, 0 to 23
+    /// @throws Oru::InternalException
+    ///         "Trying to construct an buffer-format not recognized by this method"
+    ///         for a value outside 0 to 23
     BufferFormat(tePredefined format);
 
     /// Copies the format.
+    /// @param other the format to copy
     BufferFormat(BufferFormat const& other) = default;
     /// Assigns another format.
+    /// @param other the format to copy
+    /// @return this format
     BufferFormat& operator=(BufferFormat const& other);
 
     /// Red bits.
+    /// @return as given
     unsigned int redBits() const { return red_; }
     /// Green bits.
+    /// @return as given
     unsigned int greenBits() const { return green_; }
     /// Blue bits.
+    /// @return as given
     unsigned int blueBits() const { return blue_; }
     /// Alpha bits.
+    /// @return as given
     unsigned int alphaBits() const { return alpha_; }
     /// Stencil bits.
+    /// @return as given
     unsigned int stencilBits() const { return stencil_; }
     /// Depth bits.
+    /// @return as given
     unsigned int depthBits() const { return depth_; }
     /// Whether colour is floating point.
+    /// @return as given
     bool floatingPointColor() const { return floatingPointColor_; }
 
     /// The request for GDI's ChoosePixelFormat. The colour bits are summed in
     /// 8-bit arithmetic and wrap; the floating-point flag has no place here.
+    /// @param doubleBuffered whether to ask for PFD_DOUBLEBUFFER
+    /// @return an RGBA, OpenGL, window-drawing descriptor with these depths
     PIXELFORMATDESCRIPTOR pixelFormatDescriptor(bool doubleBuffered) const;
 
     /// The zero-terminated integer attribute list for wglChoosePixelFormatARB.
-    /// Multisample pairs are added when samples > 1; pixelBuffer asks for a
-    /// format that draws to a pbuffer instead of a window.
+    /// @param doubleBuffered whether to ask for a double-buffered format
+    /// @param samples        samples per pixel; multisample pairs are added when above 1
+    /// @param pixelBuffer    whether the format draws to a pbuffer instead of a window
+    /// @return WGL attribute and value pairs, ending in 0
     std::vector<int> pixelFormatAttributes(bool doubleBuffered, int samples, bool pixelBuffer) const;
 
-    /// The float attribute list that goes with it: two zeros.
+    /// The float attribute list that goes with it.
+    /// @return two zeros
     static std::vector<float> pixelFormatFloatAttributes();
 
 private:

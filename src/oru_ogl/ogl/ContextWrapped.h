@@ -15,7 +15,12 @@ class ORU_OGL_API ContextWrapped : public Context
 {
 public:
     /// Wraps handles the caller keeps owning.
+    /// @param device    the device context; not null
+    /// @param rendering the rendering context made on it; not null
+    /// @throws Oru::InternalException "ContextWrapped::ctor invalid device" or
+    ///         "ContextWrapped::ctor invalid rendering context" for a null handle
     ContextWrapped(HDC device, HGLRC rendering);
+    /// Releases nothing.
     virtual ~ContextWrapped();
 };
 

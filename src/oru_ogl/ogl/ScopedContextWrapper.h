@@ -13,8 +13,12 @@ namespace OGL
 class ORU_OGL_API ScopedContextWrapper : public Context
 {
 public:
+    /// Remembers the current device and rendering context (both null when none is current).
     ScopedContextWrapper();
-    /// Throws the makeCurrent() failure if the saved pair cannot be restored.
+    /// Makes the remembered pair current again unless it still is; a pair of
+    /// nulls releases whatever was made current meanwhile.
+    /// @throws Oru::InternalException "Context::can't make this context current"
+    ///         followed by GetLastError()'s number when the pair cannot be restored
     virtual ~ScopedContextWrapper() noexcept(false);
 };
 

@@ -179,115 +179,314 @@ public:
         UNPACK_ALIGNMENT = 15
     };
 
+    /// Deletes the GL texture name; a bound texture is replaced by the default
+    /// texture in its bindings.
     virtual ~Texture();
 
     /// GL value of a Target.
+    /// @param target a texture target of the layer
+    /// @return its GL constant, GL_TEXTURE_2D say
+    /// @throws Oru::InternalException "!\"Target enums are not all properly translated.\"" for a
+    ///         value cast into the enumeration from outside it
     static unsigned int Target2GL(Target target);
     /// Target of a GL value.
+    /// @param target a GL constant
+    /// @return the layer's Target for it
+    /// @throws Oru::InternalException "!\"Target enums are not all properly translated.\"" for a
+    ///         GL value the enumeration has no row for
     static Target GL2Target(unsigned int target);
     /// GL value of a TargetBinding.
+    /// @param binding a binding query of the layer
+    /// @return its GL constant, GL_TEXTURE_BINDING_2D say
+    /// @throws Oru::InternalException "!\"Target enums are not all properly translated.\"" (the binding queries share the targets' text) for a
+    ///         value cast into the enumeration from outside it
     static unsigned int TargetBinding2GL(TargetBinding binding);
     /// TargetBinding of a GL value.
+    /// @param binding a GL constant
+    /// @return the layer's TargetBinding for it
+    /// @throws Oru::InternalException "!\"Target enums are not all properly translated.\"" (the binding queries share the targets' text) for a
+    ///         GL value the enumeration has no row for
     static TargetBinding GL2TargetBinding(unsigned int binding);
     /// GL value of an InternalFormat.
+    /// @param format an internal format of the layer
+    /// @return its GL constant, GL_RGBA8 say
+    /// @throws Oru::InternalException "!\"InternalFormat enums are not all properly translated.\"" for a
+    ///         value cast into the enumeration from outside it
     static unsigned int InternalFormat2GL(InternalFormat format);
     /// InternalFormat of a GL value.
+    /// Only the sized constants translate back: GL's generic 1 to 4 do not.
+    /// @param format a GL constant
+    /// @return the layer's InternalFormat for it
+    /// @throws Oru::InternalException "!\"InternalFormat enums are not all properly translated.\"" for a
+    ///         GL value the enumeration has no row for
     static InternalFormat GL2InternalFormat(unsigned int format);
     /// GL value of a Format.
+    /// @param format a pixel format of the layer
+    /// @return its GL constant, GL_RGBA say
+    /// @throws Oru::InternalException "!\"Format enums are not all properly translated.\"" for a
+    ///         value cast into the enumeration from outside it
     static unsigned int Format2GL(Format format);
     /// Format of a GL value.
+    /// @param format a GL constant
+    /// @return the layer's Format for it
+    /// @throws Oru::InternalException "!\"Format enums are not all properly translated.\"" for a
+    ///         GL value the enumeration has no row for
     static Format GL2Format(unsigned int format);
     /// GL value of a Type.
+    /// @param type a pixel data type of the layer
+    /// @return its GL constant, GL_UNSIGNED_BYTE say
+    /// @throws Oru::InternalException "!\"Type enums are not all properly translated.\"" for a
+    ///         value cast into the enumeration from outside it
     static unsigned int Type2GL(Type type);
     /// Type of a GL value.
+    /// @param type a GL constant
+    /// @return the layer's Type for it
+    /// @throws Oru::InternalException "!\"Type enums are not all properly translated.\"" for a
+    ///         GL value the enumeration has no row for
     static Type GL2Type(unsigned int type);
     /// GL value of a Filter.
+    /// @param filter a filter of the layer
+    /// @return its GL constant, GL_LINEAR say
+    /// @throws Oru::InternalException "!\"Filter enums are not all properly translated.\"" for a
+    ///         value cast into the enumeration from outside it
     static unsigned int Filter2GL(Filter filter);
     /// Filter of a GL value.
+    /// @param filter a GL constant
+    /// @return the layer's Filter for it
+    /// @throws Oru::InternalException "!\"Filter enums are not all properly translated.\"" for a
+    ///         GL value the enumeration has no row for
     static Filter GL2Filter(unsigned int filter);
     /// GL value of a WrapMode.
+    /// @param mode a wrap mode of the layer
+    /// @return its GL constant, GL_CLAMP_TO_EDGE say
+    /// @throws Oru::InternalException "!\"WrapMode enums are not all properly translated.\"" for a
+    ///         value cast into the enumeration from outside it
     static unsigned int WrapMode2GL(WrapMode mode);
     /// WrapMode of a GL value.
+    /// @param mode a GL constant
+    /// @return the layer's WrapMode for it
+    /// @throws Oru::InternalException "!\"WrapMode enums are not all properly translated.\"" for a
+    ///         GL value the enumeration has no row for
     static WrapMode GL2WrapMode(unsigned int mode);
     /// GL value of a PixelStoreMode.
+    /// @param mode a pixel-store parameter of the layer
+    /// @return its GL constant, GL_UNPACK_ALIGNMENT say
+    /// @throws Oru::InternalException "!\"PixelStoreMode enums are not all properly translated.\"" for a
+    ///         value cast into the enumeration from outside it
     static unsigned int PixelStoreMode2GL(PixelStoreMode mode);
     /// PixelStoreMode of a GL value.
+    /// @param mode a GL constant
+    /// @return the layer's PixelStoreMode for it
+    /// @throws Oru::InternalException "!\"PixelStoreMode enums are not all properly translated.\"" for a
+    ///         GL value the enumeration has no row for
     static PixelStoreMode GL2PixelStoreMode(unsigned int mode);
 
-    /// 1D, 2D and 3D always; rectangles with GL_ARB_texture_rectangle.
+    /// Whether the driver takes textures of a GL target.
+    /// @param glTarget a GL texture target, GL_TEXTURE_2D say
+    /// @return true for 1D, 2D and 3D always, for rectangles with
+    ///         GL_ARB_texture_rectangle, false for every other value (cube maps included)
+    /// @throws Oru::InternalException "Enforce pInstance_ != NULL" for a rectangle
+    ///         while the layer is not started
     static bool IsTargetSupported(unsigned int glTarget);
-    /// GL_SGIS_generate_mipmap, or a version 1.4 to 2.x.
+    /// Whether GL_GENERATE_MIPMAP is offered.
+    /// @return true with GL_SGIS_generate_mipmap or a version 1.4 to 2.x; a
+    ///         driver reporting 3.0 or later answers false
+    /// @throws Oru::InternalException "Enforce pInstance_ != NULL" while the layer is not started
     static bool supportsAutoMIPGeneration();
 
-    /// Number of channels of an internal format.
+    /// Number of channels of an internal format: intensity counts 1, luminance
+    /// with alpha 2; floating-point formats count like their fixed-point namesakes.
+    /// @param format an internal format
+    /// @return 1 to 4
+    /// @throws Oru::InternalException "InternalFormat enums are not all properly sized."
+    ///         for RGB4, which belongs to no channel group, and for a value outside
+    ///         the enumeration
     static std::size_t Channels(InternalFormat format);
-    /// Number of channels of a pixel format.
+    /// Number of channels per pixel of client data in a pixel format
+    /// (COLOR_INDEX counts 1).
+    /// @param format a pixel format
+    /// @return 1 to 4
+    /// @throws Oru::InternalException "InternalFormat enums are not all properly sized."
+    ///         for a value outside the enumeration
     static std::size_t Channels(Format format);
-    /// Bytes of a width x height x depth image; raises for formats whose
-    /// channels are not 8, 16 or 32 bits wide.
+    /// Bytes of a width x height x depth image of the format.
+    /// @param format an internal format whose channels are 8, 16 or 32 bits wide
+    /// @param width  in texels
+    /// @param height in texels, 1 for a 1D image
+    /// @param depth  in texels, 1 for a 1D or 2D image
+    /// @return bytes per channel x channels x width x height x depth
+    /// @throws Oru::InternalException
+    ///         "Texture::SizeInBytes Unknown color channels for format " followed
+    ///         by the format's GL name (TokenName) for the formats of other
+    ///         channel widths (RGB5, RGBA4, RGB10_A2, ...), and
+    ///         "InternalFormat enums are not all properly sized." for RGB4 and a
+    ///         value outside the enumeration
     static std::size_t SizeInBytes(InternalFormat format, std::size_t width, std::size_t height,
                                    std::size_t depth);
 
-    /// The active texture unit.
+    /// The marker that stands for the active texture unit in the unit arguments.
+    /// @return CURRENT_UNIT (-1)
     static int CurrentUnit_DEPRECATED_1_0();
-    /// Sets the texture environment mode of the active unit.
+    /// Sets the texture environment mode of the active unit, passed to GL as
+    /// given; TextureUnit::setEnv() offers the checked form.
+    /// @param mode GL_MODULATE, GL_REPLACE, GL_DECAL, GL_BLEND or GL_ADD
+    /// @throws Oru::OGL::ExceptionOGL "Texture::setEnv_DEPRECATED_1_0: <gluErrorString text>"
+    ///         with checked wrappers on, when GL has an error pending afterwards
     static void setEnv_DEPRECATED_1_0(unsigned int mode);
 
     /// The internal format.
+    /// @return the format given at construction
     InternalFormat format();
-    /// The level-0 size shifted right by level: 0 past the smallest mip level.
+    /// Width of a mip level: the level-0 width shifted right by level, without
+    /// clamping at 1.
+    /// @param level the mip level, 0 for the base image
+    /// @return the width in texels, 0 past the smallest mip level
     std::size_t width(unsigned int level) const;
-    /// Height of a mip level.
+    /// Height of a mip level, as width().
+    /// @param level the mip level, 0 for the base image
+    /// @return the height in texels, 0 past the smallest mip level
     std::size_t height(unsigned int level) const;
-    /// Depth of a mip level.
+    /// Depth of a mip level, as width().
+    /// @param level the mip level, 0 for the base image
+    /// @return the depth in texels, 0 past the smallest mip level
     std::size_t depth(unsigned int level) const;
     /// Number of channels of the internal format.
+    /// @return 1 to 4, as Channels(InternalFormat)
+    /// @throws Oru::InternalException "InternalFormat enums are not all properly sized."
+    ///         for RGB4
     std::size_t channels() const;
     /// The level-0 image's size in bytes, computed on the first call.
+    /// @return as SizeInBytes() for the format and level-0 size
+    /// @throws Oru::InternalException what SizeInBytes() throws, on every call, for
+    ///         a format it cannot size
     int sizeInBytes() const;
 
-    /// The texture must be bound by the caller.
+    /// Sets GL_TEXTURE_MIN_FILTER and GL_TEXTURE_MAG_FILTER of the texture bound
+    /// to this texture's target on the active unit: the caller binds it first.
+    /// @param minFilter the minification filter (a MIPMAP filter needs mip levels)
+    /// @param magFilter the magnification filter, NEAREST or LINEAR
+    /// @throws Oru::InternalException "!\"Filter enums are not all properly translated.\""
+    ///         for a value outside the enumeration
+    /// @throws Oru::OGL::ExceptionOGL "Texture::setFilter: <gluErrorString text>"
+    ///         with checked wrappers on, when GL has an error pending afterwards
     void setFilter(Filter minFilter, Filter magFilter);
-    /// Sets GL_TEXTURE_BORDER_COLOR from four floats.
+    /// Sets GL_TEXTURE_BORDER_COLOR of the texture bound to this texture's target
+    /// on the active unit.
+    /// @param rgba four floats, red, green, blue and alpha in [0, 1]; not null
+    /// @throws Oru::OGL::ExceptionOGL "Texture::setBorderColor: <gluErrorString text>"
+    ///         with checked wrappers on, when GL has an error pending afterwards
     void setBorderColor(const float* rgba);
-    /// Sets GL_GENERATE_MIPMAP.
+    /// Sets GL_GENERATE_MIPMAP of the texture bound to this texture's target on
+    /// the active unit (see supportsAutoMIPGeneration()).
+    /// @param on whether level-0 changes regenerate the mip levels
+    /// @throws Oru::OGL::ExceptionOGL "Texture::enableAutoMIPGeneration: <gluErrorString text>"
+    ///         with checked wrappers on, when GL has an error pending afterwards
     void enableAutoMIPGeneration(bool on);
 
+    /// \name Fixed-function helpers
     /// unit is a unit index, or CurrentUnit_DEPRECATED_1_0() for the active
     /// one. bind and enable leave the given unit active; unbind, isEnabled and
-    /// disable restore the unit that was active before.
+    /// disable restore the unit that was active before, also when they throw.
+    /// Selecting another unit needs glActiveTextureARB.
+    ///@{
+
+    /// Binds this texture to its target on a unit; binding does not enable.
+    /// @param unit the unit index, or CurrentUnit_DEPRECATED_1_0()
+    /// @throws Oru::InternalException "glActiveTextureARB is not loaded: its entry-point
+    ///         pointer is null (the driver lacks it, or the layer has not loaded the
+    ///         core version or extension it belongs to)" when another unit is asked
+    ///         for without multitexturing
+    /// @throws Oru::OGL::ExceptionOGL "TextureState::setActiveTexture: <gluErrorString text>"
+    ///         or "Texture::bind_DEPRECATED_1_0: <gluErrorString text>" with checked
+    ///         wrappers on, when GL has an error pending after a step
     void bind_DEPRECATED_1_0(int unit);
-    /// Enables the target on a unit (CURRENT_UNIT for the active one).
+    /// Enables the target on a unit and binds this texture to it.
+    /// @param unit the unit index, or CurrentUnit_DEPRECATED_1_0()
+    /// @throws Oru::InternalException "glActiveTextureARB is not loaded: ..." as
+    ///         bind_DEPRECATED_1_0()
+    /// @throws Oru::OGL::ExceptionOGL "TextureState::setActiveTexture: <gluErrorString text>"
+    ///         or "Texture::enable_DEPRECATED_1_0: <gluErrorString text>" with checked
+    ///         wrappers on, when GL has an error pending after a step
     void enable_DEPRECATED_1_0(int unit);
-    /// Binds no texture to the target on a unit.
+    /// Binds no texture to the target on a unit; refused unless this texture is
+    /// the one bound there, so that another texture's binding is not undone.
+    /// @param unit the unit index, or CurrentUnit_DEPRECATED_1_0()
+    /// @throws Oru::InternalException "Texture not bound" when this texture is not
+    ///         bound to its target on the unit; "glActiveTextureARB is not loaded:
+    ///         ..." as bind_DEPRECATED_1_0()
+    /// @throws Oru::OGL::ExceptionOGL "<Class>::<member>: <gluErrorString text>"
+    ///         (TextureState::setActiveTexture, Object::getBoundID or
+    ///         Texture::unbind_DEPRECATED_1_0) with checked wrappers on, when GL has
+    ///         an error pending after a step
     void unbind_DEPRECATED_1_0(int unit);
-    /// Whether the target is enabled on a unit.
+    /// Whether this texture is bound to its target on a unit and the target is
+    /// enabled there.
+    /// @param unit the unit index, or CurrentUnit_DEPRECATED_1_0()
+    /// @return true when both hold
+    /// @throws Oru::InternalException "glActiveTextureARB is not loaded: ..." as
+    ///         bind_DEPRECATED_1_0()
+    /// @throws Oru::OGL::ExceptionOGL "<Class>::<member>: <gluErrorString text>"
+    ///         (TextureState::setActiveTexture, Object::getBoundID or
+    ///         Texture::isEnabled_DEPRECATED_1_0) with checked wrappers on, when GL
+    ///         has an error pending after a step
     bool isEnabled_DEPRECATED_1_0(int unit) const;
-    /// Disables the target on a unit.
+    /// Unbinds this texture and disables its target on a unit. Refused when
+    /// another texture is bound there: the target then stays enabled for it.
+    /// @param unit the unit index, or CurrentUnit_DEPRECATED_1_0()
+    /// @throws Oru::InternalException "Texture target is not enabled..can't disable
+    ///         texture" unless isEnabled_DEPRECATED_1_0() holds on the unit;
+    ///         "glActiveTextureARB is not loaded: ..." as bind_DEPRECATED_1_0()
+    /// @throws Oru::OGL::ExceptionOGL "<Class>::<member>: <gluErrorString text>"
+    ///         (TextureState::setActiveTexture, Object::getBoundID,
+    ///         Texture::isEnabled_DEPRECATED_1_0 or Texture::disable_DEPRECATED_1_0)
+    ///         with checked wrappers on, when GL has an error pending after a step
     void disable_DEPRECATED_1_0(int unit);
+    ///@}
 
 protected:
     /// Stands for the active texture unit.
     static const int CURRENT_UNIT = -1;
 
-    /// Creates the GL name of a texture of the given target, format and level-0 size.
+    /// Creates the GL name (glGenTextures) of a texture of the given target,
+    /// format and level-0 size. Nothing is bound and no storage is made: the
+    /// dimension classes do that after their own checks.
+    /// @param target  the texture target
+    /// @param binding the binding query of that target
+    /// @param format  the internal format
+    /// @param width   the level-0 width in texels
+    /// @param height  the level-0 height in texels, 1 for 1D
+    /// @param depth   the level-0 depth in texels, 1 for 1D and 2D
+    /// @throws Oru::InternalException "!\"Target enums are not all properly translated.\""
+    ///         for a target or binding outside the enumerations, before a name
+    ///         exists; "Texture:: contructor failed to allocate new GPU texture resource"
+    ///         when GL gives no name (no current context)
+    /// @throws Oru::OGL::ExceptionOGL "Texture::Texture: <gluErrorString text>" with
+    ///         checked wrappers on, when GL has an error pending afterwards
     Texture(Target target, TargetBinding binding, InternalFormat format, std::size_t width, std::size_t height,
             std::size_t depth);
 
-    /// Save the client pixel-store state and set the unpack (transfer) or pack
-    /// (readback) row alignment; bytes must be 1, 2, 4 or 8. Each push is
-    /// paired with one popPixelTransferModes().
+    /// Saves the client pixel-store state (glPushClientAttrib) and sets
+    /// GL_UNPACK_ALIGNMENT. Each push is paired with one popPixelTransferModes().
+    /// @param bytes the row alignment of the client data, 1, 2, 4 or 8
+    /// @throws Oru::InternalException "Invalid row byte alignment (must be of 1, 2, 4, or 8)."
+    ///         for any other value, before anything is pushed
     static void pushAndSetTransferByteAlignment(unsigned int bytes);
-    /// Pushes the pixel-store state and sets GL_PACK_ALIGNMENT.
+    /// Saves the client pixel-store state and sets GL_PACK_ALIGNMENT.
+    /// @param bytes the row alignment of the client buffer, 1, 2, 4 or 8
+    /// @throws Oru::InternalException "Invalid row byte alignment (must be of 1, 2, 4, or 8)."
+    ///         for any other value, before anything is pushed
     static void pushAndSetReadbackByteAlignment(unsigned int bytes);
-    /// Pops what the push saved.
+    /// Restores what the last push saved (glPopClientAttrib).
     static void popPixelTransferModes();
 
-    /// Throws InternalException unless this texture is bound to its target.
+    /// A hook for checking that this texture is bound to its target before a
+    /// transfer; the base checks nothing.
     void verifyCurrentTextureObject() const;
 
-    /// Bytes of one component of the type: 1, 2 or 4 for the byte, short,
-    /// half-float and float types, 0 for every other type.
+    /// Bytes of one component of client data of the type.
+    /// @param type a pixel data type
+    /// @return 1, 2 or 4 for the byte, short, half-float and float types, 0 for
+    ///         the packed types, the 32-bit integers and bitmaps
     static std::size_t ComponentSize(Type type);
 
     /// Pops the client pixel-store state on every way out of a transfer.

@@ -37,56 +37,166 @@ public:
     };
 
     /// GL value of an Environment.
+    /// @param environment a texture environment mode
+    /// @return GL_ADD, GL_BLEND, GL_COMBINE, GL_DECAL, GL_MODULATE or GL_REPLACE
+    /// @throws Oru::InternalException "!\"Environment enums are not all properly translated.\""
+    ///         for a value outside the enumeration
     static unsigned int Environment2GL(Environment environment);
-    /// Environment of a GL value.
+    /// Environment of a GL value; the exact inverse of Environment2GL().
+    /// @param environment one of the six GL modes above
+    /// @return the layer's mode
+    /// @throws Oru::InternalException "!\"Environment enums are not all properly translated.\""
+    ///         for any other value, combiner modes included
     static Environment GL2Environment(unsigned int environment);
 
-    /// The object of a unit; the table keeps ownership. Refuses unit >= count.
+    /// The object of a unit. Asking for a unit does not activate it.
+    /// @param unit the unit number, 0 for GL_TEXTURE0, below
+    ///             ExtensionManager::numberOfTextureUnits()
+    /// @return the unit's object, owned by the table and valid until shutdown
+    /// @throws Oru::InternalException "unit < nMaxTextureUnit_" for a unit out of
+    ///         range, and for every unit while the layer is not started
     static TextureUnit* Unit(unsigned int unit);
 
-    /// Binds a 1D texture.
+    /// Binds a 1D texture to GL_TEXTURE_1D of the active unit.
+    /// @param texture the texture; not null
+    /// @throws Oru::InternalException "TextureUnit::Create() was not called (Singleton not created.)"
+    ///         while the layer is not started (a unit kept across a shutdown)
+    /// @throws Oru::OGL::ExceptionOGL "TextureUnit::bindTexture: <gluErrorString text>" with
+    ///         checked wrappers on, when GL has an error pending afterwards
     void bind(Texture1D* texture) const;
-    /// Binds a 2D texture.
+    /// Binds a 2D texture to GL_TEXTURE_2D of the active unit.
+    /// @param texture the texture; not null
+    /// @throws Oru::InternalException "TextureUnit::Create() was not called (Singleton not created.)"
+    ///         while the layer is not started (a unit kept across a shutdown)
+    /// @throws Oru::OGL::ExceptionOGL "TextureUnit::bindTexture: <gluErrorString text>" with
+    ///         checked wrappers on, when GL has an error pending afterwards
     void bind(Texture2D* texture) const;
-    /// Binds a 3D texture.
+    /// Binds a 3D texture to GL_TEXTURE_3D of the active unit.
+    /// @param texture the texture; not null
+    /// @throws Oru::InternalException "TextureUnit::Create() was not called (Singleton not created.)"
+    ///         while the layer is not started (a unit kept across a shutdown)
+    /// @throws Oru::OGL::ExceptionOGL "TextureUnit::bindTexture: <gluErrorString text>" with
+    ///         checked wrappers on, when GL has an error pending afterwards
     void bind(Texture3D* texture) const;
-    /// Binds a rectangle texture.
+    /// Binds a rectangle texture to GL_TEXTURE_RECTANGLE_ARB of the active unit.
+    /// @param texture the texture; not null
+    /// @throws Oru::InternalException "TextureUnit::Create() was not called (Singleton not created.)"
+    ///         while the layer is not started (a unit kept across a shutdown)
+    /// @throws Oru::OGL::ExceptionOGL "TextureUnit::bindTexture: <gluErrorString text>" with
+    ///         checked wrappers on, when GL has an error pending afterwards
     void bind(TextureRECT* texture) const;
-    /// Binds the default 1D texture.
+    /// Binds the default texture (name 0) to GL_TEXTURE_1D of the active unit.
+    /// @throws Oru::InternalException "TextureUnit::Create() was not called (Singleton not created.)"
+    ///         while the layer is not started (a unit kept across a shutdown)
+    /// @throws Oru::OGL::ExceptionOGL "TextureUnit::bindTexture: <gluErrorString text>" with
+    ///         checked wrappers on, when GL has an error pending afterwards
     void bind1DDefault() const;
-    /// Binds the default 2D texture.
+    /// Binds the default texture (name 0) to GL_TEXTURE_2D of the active unit.
+    /// @throws Oru::InternalException "TextureUnit::Create() was not called (Singleton not created.)"
+    ///         while the layer is not started (a unit kept across a shutdown)
+    /// @throws Oru::OGL::ExceptionOGL "TextureUnit::bindTexture: <gluErrorString text>" with
+    ///         checked wrappers on, when GL has an error pending afterwards
     void bind2DDefault() const;
-    /// Binds the default 3D texture.
+    /// Binds the default texture (name 0) to GL_TEXTURE_3D of the active unit.
+    /// @throws Oru::InternalException "TextureUnit::Create() was not called (Singleton not created.)"
+    ///         while the layer is not started (a unit kept across a shutdown)
+    /// @throws Oru::OGL::ExceptionOGL "TextureUnit::bindTexture: <gluErrorString text>" with
+    ///         checked wrappers on, when GL has an error pending afterwards
     void bind3DDefault() const;
-    /// Binds the default rectangle texture.
+    /// Binds the default texture (name 0) to GL_TEXTURE_RECTANGLE_ARB of the active unit.
+    /// @throws Oru::InternalException "TextureUnit::Create() was not called (Singleton not created.)"
+    ///         while the layer is not started (a unit kept across a shutdown)
+    /// @throws Oru::OGL::ExceptionOGL "TextureUnit::bindTexture: <gluErrorString text>" with
+    ///         checked wrappers on, when GL has an error pending afterwards
     void bindRECTDefault() const;
 
-    /// Enables 1D texturing.
+    /// Enables GL_TEXTURE_1D on the active unit (fixed-function sampling).
+    /// @throws Oru::InternalException "TextureUnit::Create() was not called (Singleton not created.)"
+    ///         while the layer is not started (a unit kept across a shutdown)
+    /// @throws Oru::OGL::ExceptionOGL "TextureUnit::enable: <gluErrorString text>" with
+    ///         checked wrappers on, when GL has an error pending afterwards
     void enable1D() const;
-    /// Enables 2D texturing.
+    /// Enables GL_TEXTURE_2D on the active unit (fixed-function sampling).
+    /// @throws Oru::InternalException "TextureUnit::Create() was not called (Singleton not created.)"
+    ///         while the layer is not started (a unit kept across a shutdown)
+    /// @throws Oru::OGL::ExceptionOGL "TextureUnit::enable: <gluErrorString text>" with
+    ///         checked wrappers on, when GL has an error pending afterwards
     void enable2D() const;
-    /// Enables 3D texturing.
+    /// Enables GL_TEXTURE_3D on the active unit (fixed-function sampling).
+    /// @throws Oru::InternalException "TextureUnit::Create() was not called (Singleton not created.)"
+    ///         while the layer is not started (a unit kept across a shutdown)
+    /// @throws Oru::OGL::ExceptionOGL "TextureUnit::enable: <gluErrorString text>" with
+    ///         checked wrappers on, when GL has an error pending afterwards
     void enable3D() const;
-    /// Enables rectangle texturing.
+    /// Enables GL_TEXTURE_RECTANGLE_ARB on the active unit (fixed-function sampling).
+    /// @throws Oru::InternalException "TextureUnit::Create() was not called (Singleton not created.)"
+    ///         while the layer is not started (a unit kept across a shutdown)
+    /// @throws Oru::OGL::ExceptionOGL "TextureUnit::enable: <gluErrorString text>" with
+    ///         checked wrappers on, when GL has an error pending afterwards
     void enableRECT() const;
-    /// Disables 1D texturing.
+    /// Disables GL_TEXTURE_1D on the active unit (fixed-function sampling).
+    /// @throws Oru::InternalException "TextureUnit::Create() was not called (Singleton not created.)"
+    ///         while the layer is not started (a unit kept across a shutdown)
+    /// @throws Oru::OGL::ExceptionOGL "TextureUnit::disable: <gluErrorString text>" with
+    ///         checked wrappers on, when GL has an error pending afterwards
     void disable1D() const;
-    /// Disables 2D texturing.
+    /// Disables GL_TEXTURE_2D on the active unit (fixed-function sampling).
+    /// @throws Oru::InternalException "TextureUnit::Create() was not called (Singleton not created.)"
+    ///         while the layer is not started (a unit kept across a shutdown)
+    /// @throws Oru::OGL::ExceptionOGL "TextureUnit::disable: <gluErrorString text>" with
+    ///         checked wrappers on, when GL has an error pending afterwards
     void disable2D() const;
-    /// Disables 3D texturing.
+    /// Disables GL_TEXTURE_3D on the active unit (fixed-function sampling).
+    /// @throws Oru::InternalException "TextureUnit::Create() was not called (Singleton not created.)"
+    ///         while the layer is not started (a unit kept across a shutdown)
+    /// @throws Oru::OGL::ExceptionOGL "TextureUnit::disable: <gluErrorString text>" with
+    ///         checked wrappers on, when GL has an error pending afterwards
     void disable3D() const;
-    /// Disables rectangle texturing.
+    /// Disables GL_TEXTURE_RECTANGLE_ARB on the active unit (fixed-function sampling).
+    /// @throws Oru::InternalException "TextureUnit::Create() was not called (Singleton not created.)"
+    ///         while the layer is not started (a unit kept across a shutdown)
+    /// @throws Oru::OGL::ExceptionOGL "TextureUnit::disable: <gluErrorString text>" with
+    ///         checked wrappers on, when GL has an error pending afterwards
     void disableRECT() const;
-    /// Whether 1D texturing is enabled.
+    /// Whether GL_TEXTURE_1D is enabled on the active unit, read from GL.
+    /// @return true when glIsEnabled answers GL_TRUE
+    /// @throws Oru::InternalException "TextureUnit::Create() was not called (Singleton not created.)"
+    ///         while the layer is not started (a unit kept across a shutdown)
+    /// @throws Oru::OGL::ExceptionOGL "TextureUnit::isEnabled: <gluErrorString text>" with
+    ///         checked wrappers on, when GL has an error pending afterwards
     bool isEnabled1D() const;
-    /// Whether 2D texturing is enabled.
+    /// Whether GL_TEXTURE_2D is enabled on the active unit, read from GL.
+    /// @return true when glIsEnabled answers GL_TRUE
+    /// @throws Oru::InternalException "TextureUnit::Create() was not called (Singleton not created.)"
+    ///         while the layer is not started (a unit kept across a shutdown)
+    /// @throws Oru::OGL::ExceptionOGL "TextureUnit::isEnabled: <gluErrorString text>" with
+    ///         checked wrappers on, when GL has an error pending afterwards
     bool isEnabled2D() const;
-    /// Whether 3D texturing is enabled.
+    /// Whether GL_TEXTURE_3D is enabled on the active unit, read from GL.
+    /// @return true when glIsEnabled answers GL_TRUE
+    /// @throws Oru::InternalException "TextureUnit::Create() was not called (Singleton not created.)"
+    ///         while the layer is not started (a unit kept across a shutdown)
+    /// @throws Oru::OGL::ExceptionOGL "TextureUnit::isEnabled: <gluErrorString text>" with
+    ///         checked wrappers on, when GL has an error pending afterwards
     bool isEnabled3D() const;
-    /// Whether rectangle texturing is enabled.
+    /// Whether GL_TEXTURE_RECTANGLE_ARB is enabled on the active unit, read from GL.
+    /// @return true when glIsEnabled answers GL_TRUE
+    /// @throws Oru::InternalException "TextureUnit::Create() was not called (Singleton not created.)"
+    ///         while the layer is not started (a unit kept across a shutdown)
+    /// @throws Oru::OGL::ExceptionOGL "TextureUnit::isEnabled: <gluErrorString text>" with
+    ///         checked wrappers on, when GL has an error pending afterwards
     bool isEnabledRECT() const;
 
-    /// The texture environment mode of the active unit.
+    /// Sets the texture environment mode of the active unit: how the texture
+    /// colour combines with the fragment colour. The mode is checked before
+    /// anything reaches GL.
+    /// @param mode the environment mode; MODULATE is GL's default
+    /// @throws Oru::InternalException "!\"Environment enums are not all properly translated.\""
+    ///         for a value outside the enumeration
+    /// @throws Oru::InternalException "TextureUnit::Create() was not called (Singleton not created.)"
+    ///         while the layer is not started (a unit kept across a shutdown)
+    /// @throws Oru::OGL::ExceptionOGL "TextureUnit::setEnv: <gluErrorString text>" with
+    ///         checked wrappers on, when GL has an error pending afterwards
     void setEnv(Environment mode) const;
 
 private:
