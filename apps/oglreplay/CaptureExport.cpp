@@ -171,28 +171,49 @@ CaptureExport::CaptureExport(Options const& options) : options_(options)
 
 std::string CaptureExport::floatLiteral(float value)
 {
+    std::uint32_t bits;
+    std::memcpy(&bits, &value, sizeof(bits));
     if (!std::isfinite(value))
-    {
-        std::uint32_t bits;
-        std::memcpy(&bits, &value, sizeof(bits));
         return "floatBits(" + hex(bits) + ")";
-    }
-    char text[40];
-    std::snprintf(text, sizeof(text), "%af", static_cast<double>(value));
-    return text;
+    return hexFloat(bits >> 31, (bits >> 23) & 0xFF, bits & 0x7FFFFF, 23, 127) + "f";
 }
 
 std::string CaptureExport::doubleLiteral(double value)
 {
+    std::uint64_t bits;
+    std::memcpy(&bits, &value, sizeof(bits));
     if (!std::isfinite(value))
-    {
-        std::uint64_t bits;
-        std::memcpy(&bits, &value, sizeof(bits));
         return "doubleBits(" + hex(bits) + "ull)";
+    return hexFloat(bits >> 63, static_cast<int>((bits >> 52) & 0x7FF), bits & 0xFFFFFFFFFFFFFull, 52, 1023);
+}
+
+// The C++ hex-float literal of a finite value, written here rather than by
+// printf("%a"), whose spelling differs between C runtimes.
+std::string CaptureExport::hexFloat(bool negative, int exponentField, std::uint64_t fraction, int fractionBits, int bias)
+{
+    std::string text = negative ? "-0x" : "0x";
+    if (exponentField == 0 && fraction == 0)
+        return text + "0p+0";
+    int exponent = exponentField - bias;
+    if (exponentField == 0) // subnormal: normalised here, the literal has no such limit
+    {
+        exponent = 1 - bias;
+        while (!(fraction >> fractionBits))
+        {
+            fraction <<= 1;
+            --exponent;
+        }
+        fraction &= (std::uint64_t(1) << fractionBits) - 1;
     }
-    char text[40];
-    std::snprintf(text, sizeof(text), "%a", value);
-    return text;
+    // The fraction in whole hex digits, trailing zeros dropped.
+    const int digits = (fractionBits + 3) / 4;
+    fraction <<= digits * 4 - fractionBits;
+    std::string hexDigits;
+    for (int i = digits - 1; i >= 0; --i)
+        hexDigits += "0123456789abcdef"[(fraction >> (i * 4)) & 0xF];
+    hexDigits.erase(hexDigits.find_last_not_of('0') + 1);
+    text += hexDigits.empty() ? "1" : "1." + hexDigits;
+    return text + "p" + (exponent >= 0 ? "+" : "") + std::to_string(exponent);
 }
 
 void CaptureExport::run(CaptureReader& reader)

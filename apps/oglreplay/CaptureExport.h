@@ -56,6 +56,9 @@ public:
     static std::string floatLiteral(float value);
     static std::string doubleLiteral(double value);
 
+    /// The hex-float literal of a finite value's sign, exponent and fraction fields.
+    static std::string hexFloat(bool negative, int exponentField, std::uint64_t fraction, int fractionBits, int bias);
+
     // What the per-operation argument writers call back.
     std::string pointer(CaptureRecord const& call, unsigned int index);
 

@@ -67,6 +67,11 @@ int main(int argc, char** argv)
                    "the calls after B's SwapBuffers are not")
         ->type_name("A:B")
         ->needs(exportOption);
+    std::uint64_t callsPerFile = 5000;
+    app.add_option("--calls-per-file", callsPerFile, "with --export: calls per C++ file (each compiles quickly)")
+        ->capture_default_str()
+        ->check(CLI::PositiveNumber)
+        ->needs(exportOption);
     app.footer(kFooter);
     try
     {
@@ -111,6 +116,7 @@ int main(int argc, char** argv)
         {
             Oru::OGL::CaptureExport::Options exportOptions;
             exportOptions.directory = exportDirectory;
+            exportOptions.callsPerPart = callsPerFile;
             exportOptions.captureName = capture.substr(capture.find_last_of("\\/") + 1);
             char rest = 0;
             if (!frameRange.empty() && std::sscanf(frameRange.c_str(), "%u:%u%c", &exportOptions.firstFrame,

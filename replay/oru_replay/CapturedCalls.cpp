@@ -408,7 +408,7 @@ void bufferContents(GLenum target, std::uint64_t offset, std::uint64_t length, C
     std::memcpy(static_cast<char*>(found->second) + offset, bytes.address, static_cast<std::size_t>(length));
 }
 
-void frame(unsigned int number, int width, int height, std::uint64_t checksum, CallPointer stored)
+void frame(unsigned int number, int width, int height, std::uint64_t checksum, void const* stored)
 {
     Player& p = player();
     ++p.result.frames;
@@ -430,12 +430,12 @@ void frame(unsigned int number, int width, int height, std::uint64_t checksum, C
         {
             ++p.result.differingFrames;
             log() << "frame " << number << " differs from the capture";
-            if (stored.address)
+            if (stored)
             {
                 Image captured;
                 captured.width = image.width;
                 captured.height = image.height;
-                auto const* pixels = static_cast<unsigned char const*>(stored.address);
+                auto const* pixels = static_cast<unsigned char const*>(stored);
                 captured.rgba.assign(pixels, pixels + image.rgba.size());
                 log() << ": " << differingPixels(image, captured) << " of " << std::uint64_t(image.width) * image.height
                       << " pixels";

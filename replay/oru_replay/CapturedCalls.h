@@ -98,7 +98,7 @@ void clientArray(ArrayKind kind, std::uint32_t unit, GLint size, GLenum type, GL
 void bufferContents(GLenum target, std::uint64_t offset, std::uint64_t length, CallPointer bytes);
 /// A presented frame, compared with the capture's checksum; `stored` is the
 /// captured frame's pixels, or nullptr.
-void frame(unsigned int number, int width, int height, std::uint64_t checksum, CallPointer stored);
+void frame(unsigned int number, int width, int height, std::uint64_t checksum, void const* stored);
 
 // WGL calls, on the replay's own windows and contexts.
 void createContext(std::uint64_t device, std::uint64_t context);
