@@ -119,10 +119,12 @@ int main(int argc, char** argv)
             exportOptions.callsPerPart = callsPerFile;
             exportOptions.captureName = capture.substr(capture.find_last_of("\\/") + 1);
             char rest = 0;
-            if (!frameRange.empty() && std::sscanf(frameRange.c_str(), "%u:%u%c", &exportOptions.firstFrame,
-                                                   &exportOptions.lastFrame, &rest) != 2)
+            if (!frameRange.empty() &&
+                (std::sscanf(frameRange.c_str(), "%u:%u%c", &exportOptions.firstFrame, &exportOptions.lastFrame,
+                             &rest) != 2 ||
+                 exportOptions.firstFrame > exportOptions.lastFrame))
             {
-                std::cerr << "oglreplay: --frames takes A:B, frame numbers counted from 0, not '" << frameRange
+                std::cerr << "oglreplay: --frames takes A:B, frame numbers from 0 with A <= B, not '" << frameRange
                           << "'\n";
                 return kBadArguments;
             }
