@@ -47,3 +47,41 @@ function(oru_add_replay target)
     VERBATIM)
   oru_ogl_deploy(${target})
 endfunction()
+
+# oru_add_capture_replay(<target> <export directory>)
+#
+# Makes a program from the C++ that `oglreplay CAPTURE --export DIR` wrote:
+# its .cpp files, compiled against the replay harness (main() from
+# oru_capture_main). The export's data file is copied next to the program,
+# where its --data option looks by default. The DLLs the program needs are
+# copied next to it (oru_ogl_deploy).
+function(oru_add_capture_replay target dir)
+  get_filename_component(dir "${dir}" ABSOLUTE)
+  file(GLOB sources CONFIGURE_DEPENDS ${dir}/*.cpp)
+  file(GLOB data ${dir}/*.data)
+  list(LENGTH data count)
+  if(NOT sources OR NOT count EQUAL 1)
+    message(FATAL_ERROR "oru_add_capture_replay(${target}): ${dir} holds no export of oglreplay")
+  endif()
+  get_filename_component(data_name "${data}" NAME)
+  add_executable(${target} ${sources})
+  if(TARGET oru::capture_main) # from an installed package
+    target_link_libraries(${target} PRIVATE oru::capture_main)
+  else()
+    target_link_libraries(${target} PRIVATE oru_capture_main)
+  endif()
+  # Straight-line calls: optimising them takes long and gains nothing. The
+  # harness's header, with windows.h under it, costs more than the calls of a
+  # part: it is compiled once, lean, and shared by every part.
+  if(MSVC)
+    target_compile_options(${target} PRIVATE /Od /w /bigobj)
+  else()
+    target_compile_options(${target} PRIVATE -O0 -w)
+  endif()
+  target_compile_definitions(${target} PRIVATE WIN32_LEAN_AND_MEAN)
+  target_precompile_headers(${target} PRIVATE <oru_replay/CapturedCalls.h>)
+  add_custom_command(TARGET ${target} POST_BUILD
+    COMMAND ${CMAKE_COMMAND} -E copy_if_different ${data} $<TARGET_FILE_DIR:${target}>/${data_name}
+    VERBATIM)
+  oru_ogl_deploy(${target})
+endfunction()

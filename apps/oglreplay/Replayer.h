@@ -1,12 +1,11 @@
 #ifndef OGLREPLAY_REPLAYER_H
 #define OGLREPLAY_REPLAYER_H
 
-#include "NameMaps.h"
-
 #include "oru_ogl/extensionator/CaptureReader.h"
 #include "oru_ogl/extensionator/GLStateProbe.h"
 #include "oru_ogl/ogl/ContextWrapped.h"
 
+#include "oru_replay/NameMaps.h"
 #include "oru_replay/Window.h"
 
 #include <deque>

@@ -1,6 +1,7 @@
 // oglreplay: replays a capture made by oru_ogl's CaptureSession on this
 // machine's driver, without a compiler, and checks that every presented frame
 // equals the captured one; or prints the capture as text.
+#include "CaptureExport.h"
 #include "CaptureText.h"
 #include "Replayer.h"
 
@@ -8,6 +9,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <cstdio>
 #include <iostream>
 #include <map>
 #include <string>
@@ -53,6 +55,22 @@ int main(int argc, char** argv)
         ->excludes(dumpOption);
     app.add_flag("--stats", statistics, "time every call and print calls and driver time per function")
         ->excludes(dumpOption);
+    std::string exportDirectory, frameRange;
+    auto* exportOption = app.add_option("--export", exportDirectory,
+                                        "write the capture as a C++ program into DIR (oru_add_capture_replay) "
+                                        "and replay nothing")
+                             ->type_name("DIR")
+                             ->excludes(dumpOption);
+    app.add_option("--frames", frameRange,
+                   "with --export: compare only frames A to B; the calls before A are exported too, "
+                   "the calls after B's SwapBuffers are not")
+        ->type_name("A:B")
+        ->needs(exportOption);
+    std::uint64_t callsPerFile = 5000;
+    app.add_option("--calls-per-file", callsPerFile, "with --export: calls per C++ file (each compiles quickly)")
+        ->capture_default_str()
+        ->check(CLI::PositiveNumber)
+        ->needs(exportOption);
     app.footer(kFooter);
     try
     {
@@ -91,6 +109,37 @@ int main(int argc, char** argv)
         if (dump)
         {
             Oru::OGL::CaptureText::write(reader, std::cout);
+            return kSuccess;
+        }
+        if (!exportDirectory.empty())
+        {
+            Oru::OGL::CaptureExport::Options exportOptions;
+            exportOptions.directory = exportDirectory;
+            exportOptions.callsPerPart = callsPerFile;
+            exportOptions.captureName = capture.substr(capture.find_last_of("\\/") + 1);
+            char rest = 0;
+            if (!frameRange.empty() &&
+                (std::sscanf(frameRange.c_str(), "%u:%u%c", &exportOptions.firstFrame, &exportOptions.lastFrame,
+                             &rest) != 2 ||
+                 exportOptions.firstFrame > exportOptions.lastFrame))
+            {
+                std::cerr << "oglreplay: --frames takes A:B, frame numbers from 0 with A <= B, not '" << frameRange
+                          << "'\n";
+                return kBadArguments;
+            }
+            Oru::OGL::CaptureExport exporter(exportOptions);
+            try
+            {
+                exporter.run(reader);
+            }
+            catch (std::runtime_error const& error)
+            {
+                std::cerr << "oglreplay: " << error.what() << "\n";
+                return dynamic_cast<Oru::OGL::CaptureError const*>(&error) ? kBadCapture : kBadArguments;
+            }
+            Oru::OGL::CaptureExport::Result const& result = exporter.result();
+            std::cout << "exported " << result.calls << " calls, " << result.frames << " frames in " << result.parts
+                      << " parts and " << result.dataBytes << " bytes of data to " << exportDirectory << "\n";
             return kSuccess;
         }
         Oru::OGL::Replayer replayer(options);

@@ -1,4 +1,4 @@
-#include "NameMaps.h"
+#include "oru_replay/NameMaps.h"
 
 #include <cstring>
 #include <string>
@@ -59,11 +59,20 @@ void NameMaps::mapArguments(CaptureRecord& call) const
     }
 }
 
+void NameMaps::learnName(Space space, std::uint64_t captured, std::uint64_t replayed)
+{
+    maps_[space][captured] = replayed;
+}
+
+void NameMaps::learnLocation(std::uint64_t program, std::uint64_t captured, std::uint64_t replayed)
+{
+    maps_[UniformLocation][(program << 32) ^ (captured & 0xFFFFFFFFu)] = replayed;
+}
+
 void NameMaps::learn(CaptureRecord const& call, void* const* outputs, long long result)
 {
     for (Use const& use : uses_[call.operation])
     {
-        auto& map = maps_[use.space];
         if (use.index < 0)
         {
             const long long captured = call.result.integer();
@@ -74,17 +83,14 @@ void NameMaps::learn(CaptureRecord const& call, void* const* outputs, long long 
                 // glGenLists(range): a block of names.
                 const long long range = call.arguments[0].integer();
                 for (long long i = 0; i < range; ++i)
-                    map[static_cast<std::uint64_t>(captured + i)] = static_cast<std::uint64_t>(result + i);
+                    learnName(List, static_cast<std::uint64_t>(captured + i), static_cast<std::uint64_t>(result + i));
             }
             else if (use.space == UniformLocation)
-            {
                 // glGetUniformLocation(program, name): the location in that program.
-                const std::uint64_t program = static_cast<std::uint64_t>(call.arguments[0].integer());
-                map[(program << 32) ^ (static_cast<std::uint64_t>(captured) & 0xFFFFFFFFu)] =
-                    static_cast<std::uint64_t>(result);
-            }
+                learnLocation(static_cast<std::uint64_t>(call.arguments[0].integer()),
+                              static_cast<std::uint64_t>(captured), static_cast<std::uint64_t>(result));
             else
-                map[static_cast<std::uint64_t>(captured)] = static_cast<std::uint64_t>(result);
+                learnName(use.space, static_cast<std::uint64_t>(captured), static_cast<std::uint64_t>(result));
             continue;
         }
         CapturedArgument const& argument = call.arguments[use.index];
@@ -96,7 +102,7 @@ void NameMaps::learn(CaptureRecord const& call, void* const* outputs, long long 
         {
             GLuint captured = 0;
             std::memcpy(&captured, argument.kept + i * sizeof(GLuint), sizeof(GLuint));
-            map[captured] = mine[i];
+            learnName(use.space, captured, mine[i]);
         }
     }
 }

@@ -1,5 +1,5 @@
-#ifndef OGLREPLAY_NAMEMAPS_H
-#define OGLREPLAY_NAMEMAPS_H
+#ifndef ORU_REPLAY_NAMEMAPS_H
+#define ORU_REPLAY_NAMEMAPS_H
 
 #include "oru_ogl/extensionator/CaptureReader.h"
 #include "oru_ogl/extensionator/GLTypes.h"
@@ -46,6 +46,10 @@ public:
     /// glGenLists, glGet*Location. `output` is where the call wrote its names
     /// (by parameter index), `result` what it returned.
     void learn(CaptureRecord const& call, void* const* outputs, long long result);
+    /// Learns one name of a space other than UniformLocation.
+    void learnName(Space space, std::uint64_t captured, std::uint64_t replayed);
+    /// Learns a uniform location of a program (the replay's name of it).
+    void learnLocation(std::uint64_t program, std::uint64_t captured, std::uint64_t replayed);
 
     /// The program glUseProgram made current, for uniform locations.
     void useProgram(std::uint64_t program) { program_ = program; }
