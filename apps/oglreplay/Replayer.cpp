@@ -400,6 +400,18 @@ void Replayer::wgl(CaptureRecord& call)
         ++result_.skipped;
         report(call, "skipped: the fonts of the captured device context are not known here");
         break;
+    case kWGLGetProcAddress:
+        // A function outside the catalogue is invisible to the capture: say so
+        // once, since frames that depend on its calls will differ.
+        if (call.arguments[0].kind == PointerKind::Data && call.result.as<std::uint64_t>())
+        {
+            const std::string name(reinterpret_cast<char const*>(call.arguments[0].data));
+            if (operationNumber(name.c_str()) == kOperationCount && unknownFunctions_.insert(name).second)
+                report(call, "the program fetched " + name +
+                                 ", a function the capture does not know: its calls are not in the capture, "
+                                 "and frames that depend on them differ");
+        }
+        break;
     default:
         break; // queries and palettes: nothing the frames depend on
     }

@@ -12,6 +12,7 @@
 #include <map>
 #include <memory>
 #include <ostream>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -115,6 +116,7 @@ private:
     std::map<std::tuple<std::uint64_t, int, std::uint32_t>, std::vector<std::uint64_t>> arrays_;
     std::map<std::pair<std::uint64_t, std::uint32_t>, void*> mappings_;
     std::vector<bool> reportedMissing_;
+    std::set<std::string> unknownFunctions_;
 
     std::vector<std::uint64_t> counts_;
     std::vector<double> seconds_;

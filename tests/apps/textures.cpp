@@ -5,7 +5,10 @@
 // (GL_ARB_texture_rectangle) addressed in texels. glReadPixels reads the
 // framebuffer object back to colour the frame's border.
 //
-//     textures [--frames N] [--print-frames]
+//     textures [--frames N] [--print-frames] [--ext-mipmaps]
+//
+// With --ext-mipmaps the mipmaps come from GL_EXT_framebuffer_object's
+// glGenerateMipmapEXT instead of the newer glGenerateMipmap.
 #include <windows.h>
 #include <GL/gl.h>
 #include <GL/glext.h>
@@ -26,6 +29,7 @@ static PFNGLCHECKFRAMEBUFFERSTATUSEXTPROC glCheckFramebufferStatusEXT;
 static PFNGLDELETEFRAMEBUFFERSEXTPROC glDeleteFramebuffersEXT;
 // Newer than the program's OpenGL 2.x, but every driver with framebuffer objects has it.
 static PFNGLGENERATEMIPMAPPROC glGenerateMipmap;
+static PFNGLGENERATEMIPMAPEXTPROC glGenerateMipmapEXT;
 
 static const int kTarget = 64; // the framebuffer object's texture, square
 
@@ -66,12 +70,15 @@ int main(int argc, char** argv)
 {
     int frames = 4;
     bool printFrames = false;
+    bool extMipmaps = false;
     for (int i = 1; i < argc; ++i)
     {
         if (!std::strcmp(argv[i], "--frames") && i + 1 < argc)
             frames = std::atoi(argv[++i]);
         else if (!std::strcmp(argv[i], "--print-frames"))
             printFrames = true;
+        else if (!std::strcmp(argv[i], "--ext-mipmaps"))
+            extMipmaps = true;
     }
 
     WNDCLASSA windowClass = {};
@@ -103,8 +110,11 @@ int main(int argc, char** argv)
     glFramebufferTexture2DEXT = (PFNGLFRAMEBUFFERTEXTURE2DEXTPROC)(void*)wglGetProcAddress("glFramebufferTexture2DEXT");
     glCheckFramebufferStatusEXT = (PFNGLCHECKFRAMEBUFFERSTATUSEXTPROC)(void*)wglGetProcAddress("glCheckFramebufferStatusEXT");
     glDeleteFramebuffersEXT = (PFNGLDELETEFRAMEBUFFERSEXTPROC)(void*)wglGetProcAddress("glDeleteFramebuffersEXT");
-    glGenerateMipmap = (PFNGLGENERATEMIPMAPPROC)(void*)wglGetProcAddress("glGenerateMipmap");
-    if (!glActiveTexture || !glClientActiveTexture || !glTexImage3D || !glGenerateMipmap ||
+    if (extMipmaps)
+        glGenerateMipmapEXT = (PFNGLGENERATEMIPMAPEXTPROC)(void*)wglGetProcAddress("glGenerateMipmapEXT");
+    else
+        glGenerateMipmap = (PFNGLGENERATEMIPMAPPROC)(void*)wglGetProcAddress("glGenerateMipmap");
+    if (!glActiveTexture || !glClientActiveTexture || !glTexImage3D || !(glGenerateMipmap || glGenerateMipmapEXT) ||
         !hasExtension("GL_EXT_framebuffer_object") || !hasExtension("GL_ARB_texture_rectangle"))
     {
         std::fprintf(stderr, "textures: needs OpenGL 1.3, framebuffer objects and rectangle textures\n");
@@ -188,7 +198,10 @@ int main(int argc, char** argv)
         glReadPixels(kTarget / 2, kTarget / 2, 1, 1, GL_RGBA, GL_UNSIGNED_BYTE, centre);
         glBindFramebufferEXT(GL_FRAMEBUFFER_EXT, 0);
         glBindTexture(GL_TEXTURE_2D, textures[0]);
-        glGenerateMipmap(GL_TEXTURE_2D);
+        if (extMipmaps)
+            glGenerateMipmapEXT(GL_TEXTURE_2D);
+        else
+            glGenerateMipmap(GL_TEXTURE_2D);
 
         // On screen: the border in the framebuffer's centre colour, the render
         // target times the colour cube on the left, the flag on the right.
