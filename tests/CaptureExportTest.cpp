@@ -156,8 +156,8 @@ TEST_F(CaptureExportTest, CallsAreWrittenWithNamesEnumsExactFloatsAndDataOffsets
         "    glGenTextures(2, output(1, 8));\n    learnNames(Texture, output(1), {7, 9});\n",
         "    glBindTexture(GL_TEXTURE_2D, name(Texture, 9));\n",
         // Both uploads name the one block: equal data is stored once.
-        "    glTexImage2D(GL_TEXTURE_2D, 0, 6408, 2, 2, 0, GL_RGBA, GL_UNSIGNED_BYTE, data(16));\n"
-        "    glTexImage2D(GL_TEXTURE_2D, 0, 6408, 2, 2, 0, GL_RGBA, GL_UNSIGNED_BYTE, data(16));\n",
+        ("    glTexImage2D(GL_TEXTURE_2D, 0, 6408, 2, 2, 0, GL_RGBA, GL_UNSIGNED_BYTE, data(16));\n"
+         "    glTexImage2D(GL_TEXTURE_2D, 0, 6408, 2, 2, 0, GL_RGBA, GL_UNSIGNED_BYTE, data(16));\n"),
         "    glClearColor(0x1.99999ap-4f, -0x0p+0f, 0x1.16c2p-133f, floatBits(0x7f800000));\n",
         "    glDeleteTextures(2, names(Texture, {7, 9}));\n",
         "    learnLists(5, 3, glGenLists(3));\n",
