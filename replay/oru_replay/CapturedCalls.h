@@ -28,7 +28,8 @@ namespace Replay
 /// output, a captured address. Converts to whatever pointer the GL parameter is.
 struct CallPointer
 {
-    void const* address;
+    void const* address; ///< where the data is
+    /// The address as the parameter's pointer type.
     template <class T>
     operator T*() const
     {
@@ -110,19 +111,20 @@ void swapBuffers(std::uint64_t device);
 /// A call that cannot be replayed, reported once per call.
 void skipped(std::uint64_t call, char const* function, char const* why);
 
-// The exported program's side.
+/// How the exported program runs.
 struct CaptureOptions
 {
-    bool compare = true;
+    bool compare = true; ///< compare each presented frame with the capture's checksum
     std::map<unsigned int, std::string> pngs; ///< frames to write as PNG
 };
+/// What the exported program saw.
 struct CaptureResult
 {
-    unsigned int frames = 0;
-    unsigned int comparedFrames = 0;
-    unsigned int differingFrames = 0;
-    std::uint64_t skipped = 0;
-    std::uint64_t glErrors = 0;
+    unsigned int frames = 0;          ///< presented
+    unsigned int comparedFrames = 0;  ///< compared with the capture's
+    unsigned int differingFrames = 0; ///< of those, differing
+    std::uint64_t skipped = 0;        ///< calls of functions the driver lacks
+    std::uint64_t glErrors = 0;       ///< GL errors raised
 };
 /// Reads the data file whole. False, with the reason, when it cannot be read
 /// or is not the data of this export.
@@ -140,7 +142,7 @@ struct OruCapturedProgram
     std::uint64_t dataSize;   ///< its size in bytes
     std::uint64_t calls;      ///< calls exported
     unsigned int partCount;   ///< the calls, in parts of a few thousand
-    void (*const* parts)();
+    void (*const* parts)();   ///< the parts, in order
 };
 extern const OruCapturedProgram oruCapturedProgram;
 

@@ -20,6 +20,7 @@ namespace OGL
 class NameMaps
 {
 public:
+    /// The name spaces: each maps its captured values on its own.
     enum Space
     {
         Texture, Buffer, Framebuffer, Renderbuffer, Query, List, VertexArray, ShaderObject, ArbProgram,
@@ -28,8 +29,8 @@ public:
     /// Where an operation's parameter (index) or result (index -1) is a name.
     struct Use
     {
-        int index;
-        Space space;
+        int index;   ///< the parameter, or -1 for the result
+        Space space; ///< what it names
     };
 
     NameMaps();

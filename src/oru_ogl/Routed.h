@@ -30,8 +30,8 @@
 /// main() and destroyed after it returns.
 ///
 /// Everything that declares the functions is included first, so that no
-/// declaration is rewritten and the program's own later #include <GL/gl.h>,
-/// <GL/glext.h> or <windows.h> adds nothing.
+/// declaration is rewritten and the program's own later includes of
+/// `GL/gl.h`, `GL/glext.h` or `windows.h` add nothing.
 
 #include <windows.h>
 

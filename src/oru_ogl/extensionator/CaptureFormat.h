@@ -94,6 +94,9 @@ enum class ArrayKind : std::uint8_t
 };
 
 /// 64-bit FNV-1a over the bytes: the frame checksum of Frame records.
+/// @param bytes  the pixels
+/// @param length their count
+/// @return the checksum
 inline std::uint64_t frameChecksum(unsigned char const* bytes, std::size_t length)
 {
     std::uint64_t hash = 14695981039346656037ull;

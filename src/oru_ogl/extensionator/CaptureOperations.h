@@ -31,10 +31,13 @@ enum Operation : std::uint16_t
     kOperationCount ///< the number of operations
 };
 
-/// The function an operation calls: "glColor4f", "wglMakeCurrent", "SwapBuffers";
-/// null past kOperationCount.
+/// The function an operation calls.
+/// @param operation a capture::Operation
+/// @return "glColor4f", "wglMakeCurrent", "SwapBuffers"; null past kOperationCount
 ORU_OGL_API char const* operationName(unsigned int operation);
-/// The operation of that function name, or kOperationCount.
+/// The operation of a function.
+/// @param name the function's name, as operationName() gives it
+/// @return its operation, or kOperationCount when the catalogue does not know it
 ORU_OGL_API unsigned int operationNumber(char const* name);
 
 } // namespace capture

@@ -21,11 +21,16 @@ namespace OGL
 class ORU_OGL_API CaptureError : public std::runtime_error
 {
 public:
-    /// The error `text`, about the record at `offset` and the call `callIndex`.
+    /// An error about one record.
+    /// @param text      what is wrong
+    /// @param offset    where the record begins
+    /// @param callIndex the call's index, or the next call's
     CaptureError(std::string const& text, std::uint64_t offset, std::uint64_t callIndex);
     /// Where in the file the record that failed begins.
+    /// @return the byte offset
     std::uint64_t offset() const { return offset_; }
     /// The index of the call that failed, or of the next call for other records.
+    /// @return the index, from 0
     std::uint64_t callIndex() const { return callIndex_; }
 
 private:
@@ -52,6 +57,7 @@ struct ORU_OGL_API CapturedArgument
     unsigned char const* kept = nullptr; ///< OutputKept: the bytes the call wrote
 
     /// The scalar's bytes as a T (T no larger than the scalar's size).
+    /// @return the value
     template <class T>
     T as() const
     {
@@ -60,10 +66,14 @@ struct ORU_OGL_API CapturedArgument
         return value;
     }
     /// An integer scalar, sign-extended where signed.
+    /// @return the value (a float's truncated)
     long long integer() const;
     /// The value a scalar stands for, floats included.
+    /// @return the value
     double number() const;
-    /// Strings: the i-th string's characters.
+    /// Strings: one string's characters.
+    /// @param i which, from 0
+    /// @return its characters; empty past count
     std::string text(std::uint32_t i) const;
 };
 
@@ -123,25 +133,40 @@ struct ORU_OGL_API CaptureRecord
 class ORU_OGL_API CaptureReader
 {
 public:
-    /// Opens and checks the header. Throws CaptureError when the file cannot be
-    /// read, is no capture, or has a newer format.
+    /// Opens and checks the header.
+    /// @param path the capture
+    /// @throws CaptureError "cannot open the capture '<path>'"; "not a capture: the file
+    ///         does not begin with the ORUCAPT header"; "the capture has format version
+    ///         <n>, newer than the versions this reader knows (up to <m>): read it with a
+    ///         newer oru_ogl"
     explicit CaptureReader(std::string const& path);
     /// Reads from bytes already in memory.
+    /// @param bytes the capture
+    /// @throws CaptureError as the other constructor, for a header that is no capture's
     explicit CaptureReader(std::vector<unsigned char> bytes);
 
     /// The capture's format version.
+    /// @return the header's version
     std::uint32_t version() const { return version_; }
     /// Whether Frame records hold their pixels.
+    /// @return the header's flag
     bool framesStored() const { return (flags_ & capture::kFramesStored) != 0; }
     /// Bytes of the whole capture.
+    /// @return its size
     std::uint64_t size() const { return bytes_.size(); }
 
-    /// The next record, or false at the end. Throws CaptureError for a record
-    /// that is cut off or makes no sense; the reader is then at its end.
+    /// The next record.
+    /// @param record filled with the record
+    /// @return false at the end
+    /// @throws CaptureError "capture truncated: the file ends at byte <n>, inside the call
+    ///         at byte offset <o> (call index <i>)" or "corrupt capture: <what> in the call
+    ///         at byte offset <o> (call index <i>)" (record for other records); the reader
+    ///         is then at its end
     bool next(CaptureRecord& record);
     /// Back to the first record.
     void rewind();
     /// Calls read so far.
+    /// @return the count
     std::uint64_t calls() const { return calls_; }
 
 private:

@@ -36,10 +36,14 @@ struct CaptureOptions
 class ORU_OGL_API CaptureSession
 {
 public:
-    /// Captures into a new file. Throws std::runtime_error naming the file when
-    /// it cannot be created.
+    /// Captures into a new file.
+    /// @param path    the file, created or emptied
+    /// @param options how to capture
+    /// @throws std::runtime_error "oru_ogl capture: cannot create the file '<path>'"
     explicit CaptureSession(std::string const& path, CaptureOptions const& options = CaptureOptions());
     /// Captures into a sink (memory, a pipe).
+    /// @param sink    where the stream goes, from the capture's thread
+    /// @param options how to capture
     explicit CaptureSession(CaptureWriter::Sink sink, CaptureOptions const& options = CaptureOptions());
     /// Stops, when stop() was not called.
     ~CaptureSession();
@@ -51,10 +55,13 @@ public:
     void stop();
 
     /// GL and WGL calls captured so far.
+    /// @return the count
     std::uint64_t calls() const { return stream_.calls(); }
     /// Frames presented so far.
+    /// @return the count
     unsigned int frames() const { return stream_.frames(); }
     /// Bytes of the stream so far.
+    /// @return the count
     std::uint64_t bytes() const { return writer_.size(); }
 
 private:

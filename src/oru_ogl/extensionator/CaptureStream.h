@@ -39,19 +39,23 @@ public:
         std::map<GLenum, Mapping> mappings;
     };
 
-    /// Writes the header; frames are stored whole when storeFrames.
+    /// Writes the header.
+    /// @param writer      the stream's bytes
+    /// @param storeFrames store every presented frame whole, not only its checksum
     CaptureStream(CaptureWriter& writer, bool storeFrames);
     CaptureStream(CaptureStream const&) = delete;
     CaptureStream& operator=(CaptureStream const&) = delete;
 
     /// The stream's bytes.
+    /// @return the writer
     CaptureWriter& writer() { return writer_; }
 
     /// Takes the writer's lock, for one or more records.
     void lock() { writer_.lock(); }
     /// Gives it back.
     void unlock() { writer_.unlock(); }
-    /// Opens the record of a call of `operation`; locked.
+    /// Opens the record of a call; locked.
+    /// @param operation its capture::Operation
     void openCall(unsigned int operation)
     {
         checkThread();
@@ -61,6 +65,7 @@ public:
         ++calls_;
     }
     /// Opens a control record; locked.
+    /// @param tag its capture::ControlTag
     void openControl(std::uint16_t tag)
     {
         checkThread();
@@ -68,17 +73,22 @@ public:
     }
 
     /// The current context's state (created with its features on first use); locked.
+    /// @return the state, alive as long as the stream
     ContextState& context();
     /// The record of the context current now, as the capture begins (none without one).
     void currentContext();
     /// A Surface record when the device context is new or its window changed size.
+    /// @param device the device context, or null for none
     void surface(HDC device);
     /// A Frame record of the current context's back buffer, which device shows.
+    /// @param device the device context about to be presented
     void frame(HDC device);
 
     /// Calls captured so far.
+    /// @return the count
     std::uint64_t calls() const { return calls_; }
     /// Frames captured so far.
+    /// @return the count
     unsigned int frames() const { return frames_; }
 
 private:

@@ -38,6 +38,9 @@ public:
 
     /// Writes to the sink from a thread of its own, in buffers of bufferSize
     /// bytes; the program waits once more than `backlog` bytes are queued.
+    /// @param sink       where the stream goes
+    /// @param bufferSize bytes gathered before they are queued
+    /// @param backlog    bytes that may wait for the sink
     explicit CaptureWriter(Sink sink, std::size_t bufferSize = std::size_t(8) << 20,
                            std::size_t backlog = std::size_t(256) << 20);
     /// Writes everything that is left, then stops the thread.
@@ -47,6 +50,8 @@ public:
 
     /// A sink that appends to a file, flushing it after every buffer; null when
     /// the file cannot be opened.
+    /// @param path the file, created or emptied
+    /// @return the sink, or an empty one
     static Sink fileSink(std::string const& path);
 
     /// Takes the stream for one or more records; spins, as records are short.
@@ -59,6 +64,8 @@ public:
     void unlock() { busy_.clear(std::memory_order_release); }
 
     /// Room for n more bytes: the place to write them, followed by advance(n).
+    /// @param n bytes
+    /// @return where to write them
     char* room(std::size_t n)
     {
         if (n > capacity_ - used_)
@@ -66,15 +73,19 @@ public:
         return active_.get() + used_;
     }
     /// The n bytes written at room(n) are part of the stream.
+    /// @param n bytes
     void advance(std::size_t n) { used_ += n; }
 
     /// Appends n bytes.
+    /// @param bytes the first
+    /// @param n     how many
     void put(void const* bytes, std::size_t n)
     {
         std::memcpy(room(n), bytes, n);
         used_ += n;
     }
     /// Appends a value's bytes.
+    /// @param value a trivially copyable value
     template <class T>
     void put(T value)
     {
@@ -91,6 +102,7 @@ public:
     void drain();
 
     /// Bytes written so far, in memory or beyond.
+    /// @return the stream's size
     std::uint64_t size() const { return handedOff_ + used_; }
 
 private:

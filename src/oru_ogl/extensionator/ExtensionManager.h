@@ -122,8 +122,10 @@ public:
         /// changed; other members stop where the error was raised. Refusals
         /// stay as they are. Calls in destructors and restoring scopes never
         /// throw: an error the chain raises there is dropped.
+        /// @param value true to route the wrappers' calls through the chain
         void setWrappersThroughChain(bool value) { bWrappersThroughChain_ = value; }
         /// The wrappers-through-chain option.
+        /// @return false unless set
         bool wrappersThroughChain() const { return bWrappersThroughChain_; }
 
     private:

@@ -33,14 +33,24 @@ class ORU_OGL_API GLStateProbe
 {
 public:
     /// What the current context offers.
+    /// @return read from its version, extensions and limits
     static ContextFeatures features();
-    /// The GL_UNPACK_* (pack false) or GL_PACK_* state.
+    /// The pixel store state.
+    /// @param pack GL_PACK_* when true, GL_UNPACK_* when false
+    /// @return the state
     static PixelStore pixelStore(bool pack);
-    /// The buffer bound for a binding query (GL_ARRAY_BUFFER_BINDING, ...), 0 without buffers.
+    /// The buffer bound to a binding point.
+    /// @param features     what the context offers
+    /// @param bindingQuery GL_ARRAY_BUFFER_BINDING, GL_PIXEL_UNPACK_BUFFER_BINDING, ...
+    /// @return the buffer's name; 0 for none, or when the context has no such binding
     static GLuint boundBuffer(ContextFeatures const& features, GLenum bindingQuery);
     /// The window-system back buffer as RGBA bytes, bottom row first, rows
     /// packed: whatever framebuffer, read buffer, pack state and pack buffer
     /// the program has set is put back afterwards.
+    /// @param features what the context offers
+    /// @param width    pixels from the left
+    /// @param height   rows from the bottom
+    /// @return width * height * 4 bytes
     static std::vector<unsigned char> backBuffer(ContextFeatures const& features, int width, int height);
 };
 

@@ -22,7 +22,9 @@ namespace OGL
 class ORU_OGL_API OpenGLCapture : public OpenGLInterceptorDecorator
 {
 public:
-    /// Captures into `stream`, forwarding to next (or to the chain's top when pushed).
+    /// A capture decorator.
+    /// @param stream where the calls go
+    /// @param next   where they go on to (the chain's top when pushed with addInterceptor)
     explicit OpenGLCapture(CaptureStream& stream, OpenGLInterceptor* next = nullptr);
     virtual ~OpenGLCapture();
 

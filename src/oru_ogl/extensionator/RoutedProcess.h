@@ -25,11 +25,11 @@ class wglInterceptorDecorator;
 ///   handles, so that the GL chain's entry points are loaded; it stops the layer
 ///   again when the program deletes that context, and the next context made
 ///   current starts it anew;
-/// - with the environment variable ORU_TRACE=<file>, an OpenGLTracer writing to
+/// - with the environment variable ORU_TRACE=&lt;file&gt;, an OpenGLTracer writing to
 ///   that file, flushed at every SwapBuffers and at the end. A file that cannot
 ///   be written is reported once on the standard error stream and the program
 ///   runs untraced;
-/// - with ORU_CAPTURE=<file>, a CaptureSession into that file (for oglreplay),
+/// - with ORU_CAPTURE=&lt;file&gt;, a CaptureSession into that file (for oglreplay),
 ///   which writes every frame at its SwapBuffers and the rest at the end. A
 ///   file that cannot be created is reported the same way.
 /// Only the first object alive in a process does this; another one made while
@@ -44,8 +44,10 @@ public:
     RoutedProcess& operator=(RoutedProcess const&) = delete;
 
     /// Whether this object is the one that set up the process.
+    /// @return true for the first object alive in the process
     bool isActive() const;
-    /// The trace stream, or null when the process is not traced.
+    /// The trace stream.
+    /// @return the stream ORU_TRACE names, or null when the process is not traced
     std::ostream* trace() const;
 
 private:

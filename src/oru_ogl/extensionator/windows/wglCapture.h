@@ -16,7 +16,9 @@ namespace OGL
 class ORU_OGL_API wglCapture : public wglInterceptorDecorator
 {
 public:
-    /// Captures into `stream`, forwarding to next (or to the chain's top when pushed).
+    /// A capture decorator.
+    /// @param stream where the calls go
+    /// @param next   where they go on to (the chain's top when pushed with addInterceptor)
     explicit wglCapture(CaptureStream& stream, wglInterceptor* next = nullptr);
     virtual ~wglCapture();
 
