@@ -112,6 +112,7 @@ private:
 template <class T>
 void readArgument(Cursor& cursor, CapturedArgument& argument)
 {
+    argument = CapturedArgument();
     if constexpr (detail::kDataPointer<T>)
     {
         argument.pointer = true;
@@ -224,7 +225,8 @@ bool CaptureReader::next(CaptureRecord& record)
     {
         if (at_ == bytes_.size())
             return false;
-        record = CaptureRecord();
+        // Each kind of record sets all its fields: the record is not cleared
+        // as a whole, which would cost more than reading a call.
         record.offset = at_;
         record.callIndex = calls_;
         Cursor tagCursor(bytes_, at_, calls_, false);
@@ -277,6 +279,7 @@ bool CaptureReader::next(CaptureRecord& record)
                 record.height = static_cast<int>(cursor.read<std::uint32_t>());
                 record.checksum = cursor.read<std::uint64_t>();
                 cursor.checkSize("frame", record.width, record.height);
+                record.data = nullptr;
                 if (cursor.read<std::uint8_t>())
                     record.data = cursor.take(std::uint64_t(record.width) * record.height * 4);
                 break;
